@@ -1,0 +1,53 @@
+# The QML module Meridax: every type that the interface sees. Its backing target is a static
+# library, so that program and tests share one module; an executable that links it must call
+# qml_register_types_Meridax(), or the linker drops the registration.
+#
+# Included from the top-level file, so that the QML files keep their path src/qml in the module.
+
+include(${CMAKE_CURRENT_SOURCE_DIR}/src/qml/files.cmake)
+
+set_source_files_properties(src/qml/Theme.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+set_source_files_properties(${meridax_qml_internal} PROPERTIES QT_QML_SKIP_QMLDIR_ENTRY TRUE)
+
+qt_add_library(meridax_module STATIC)
+qt_add_qml_module(meridax_module
+    URI Meridax
+    VERSION 1.0
+    RESOURCE_PREFIX /qt/qml
+    TYPEINFO TO.Meridax_Qt.qmltypes
+    NO_PLUGIN
+    # A qmldir in src/qml would send the import of that folder back to the module, where the
+    # internal types have no entry.
+    NO_GENERATE_EXTRA_QMLDIRS
+    DEPENDENCIES QtQuick
+    QML_FILES ${meridax_qml_public} ${meridax_qml_internal}
+    SOURCES
+        src/camera/CameraController.cpp src/camera/CameraController.h
+        src/camera/CameraController_device.cpp
+        src/camera/CameraController_pipeline.cpp
+        src/items/FrameMapping.cpp src/items/FrameMapping.h
+        src/items/SvgItem.cpp src/items/SvgItem.h
+        src/items/VideoFrameItem.cpp src/items/VideoFrameItem.h
+        src/measurement/CalibrationSession.h
+        src/measurement/CameraController_calibration.cpp
+        src/viewmodel/CameraList.cpp src/viewmodel/CameraList.h
+        src/viewmodel/CameraViewModel.cpp src/viewmodel/CameraViewModel.h
+        src/viewmodel/CameraViewModel_calibration.cpp
+        src/viewmodel/CameraViewModel_camera.cpp
+        src/viewmodel/CameraViewModel_overlay.cpp
+        src/viewmodel/CameraViewModel_settings.cpp
+        src/viewmodel/ExposureMigration.h
+        src/viewmodel/LanguageSwitch.cpp src/viewmodel/LanguageSwitch.h
+)
+target_include_directories(meridax_module PUBLIC ${PROJECT_SOURCE_DIR}/src
+    # The generated type registration includes headers by their bare names.
+    PRIVATE src/camera src/items src/viewmodel)
+target_link_libraries(meridax_module
+    PUBLIC meridax_settings meridax_camera meridax_measurement
+        Qt6::Quick Qt6::QuickControls2 Qt6::Multimedia Qt6::Svg Qt6::Network
+    PRIVATE meridax_options meridax_buildinfo)
+
+file(GLOB _resources RELATIVE ${PROJECT_SOURCE_DIR}/resources CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/resources/*.svg ${PROJECT_SOURCE_DIR}/resources/*.png)
+list(TRANSFORM _resources PREPEND resources/)
+qt_add_resources(meridax_module "meridax_resources" PREFIX "/" FILES ${_resources})

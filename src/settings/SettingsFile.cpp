@@ -1,0 +1,42 @@
+#include "settings/SettingsFile.h"
+
+#include "settings/SettingsJson.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QStandardPaths>
+
+namespace meridax {
+
+QString settingsFilePath()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return folder.filePath(QStringLiteral("appsettings.json"));
+}
+
+AppSettings loadSettings()
+{
+    const AppSettings defaults;
+    QFile file(settingsFilePath());
+    if (!file.open(QIODevice::ReadOnly))
+        return defaults;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    return document.isObject() ? appSettingsFromJson(document.object(), defaults) : defaults;
+}
+
+bool saveSettings(const AppSettings &settings)
+{
+    QFile file(settingsFilePath());
+    if (!QDir().mkpath(QFileInfo(file).absolutePath()))
+        return false;
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    file.write(QJsonDocument(toJson(settings)).toJson(QJsonDocument::Indented));
+    // Closing flushes the buffer, so that a full disk shows as an error.
+    file.close();
+    return file.error() == QFileDevice::NoError;
+}
+
+} // namespace meridax
