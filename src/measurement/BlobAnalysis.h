@@ -1,0 +1,46 @@
+#pragma once
+
+#include "settings/AppSettings.h"
+
+#include <QPointF>
+
+#include <opencv2/core.hpp>
+#include <opencv2/features2d.hpp>
+
+#include <span>
+#include <vector>
+
+/// Search for the dark round mark, its exact position, and what is drawn about it.
+///
+/// Grey images are CV_8UC1, colour images CV_8UC3 in BGR order. Positions are frame pixels at full
+/// resolution; the centre of the top left pixel is (0, 0).
+namespace meridax {
+
+/// Detector parameters for dark blobs; limits that contradict each other are put in order.
+cv::SimpleBlobDetector::Params buildDetectorParams(const BlobSettings &settings);
+
+/// A detector for `settings`. It takes every setting that buildDetectorParams() takes, also a
+/// lower limit of 0 for circularity or inertia, which the library itself refuses.
+cv::Ptr<cv::SimpleBlobDetector> createBlobDetector(const BlobSettings &settings);
+
+/// Finds the blobs in `grey`. An image wider than 1280 columns is searched at that width, so that
+/// the areas of the settings mean pixels of the reduced image; the keypoints are always in full
+/// resolution. `scaled` is the buffer of the reduced image, kept by the caller between frames.
+///
+/// A range that holds a single threshold finds nothing, since a blob has to show at two.
+std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv::Mat &grey,
+                                      cv::Mat &scaled);
+
+/// The sub-pixel centre of the dark blob at `keypoint`: centroid of its outline in a window of
+/// `grey`, binarised by Otsu's method. Gives the position of the keypoint itself where the window
+/// is too small or holds no outline near enough.
+cv::Point2d refineBlobCentre(const cv::Mat &grey, const cv::KeyPoint &keypoint);
+
+/// Draws the ring about one blob.
+void drawBlobMark(cv::Mat &bgr, const cv::KeyPoint &keypoint, const cv::Scalar &colour);
+
+/// Draws the fitted centre as a ring with crosshair, and a ring about each measured point.
+/// Whatever lies outside the image is left out, however far away.
+void drawCalibrationResult(cv::Mat &bgr, QPointF centre, std::span<const QPointF> points);
+
+} // namespace meridax
