@@ -1,0 +1,141 @@
+#include "Controls.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cmath>
+
+namespace meridax::simcam {
+
+namespace {
+
+constexpr int kNominalExposure = 157; // in units of 100 us; the automatic exposure arrives here
+constexpr int kFocusMax = 1023;
+
+const char *const kExposureMenu[] = {"Auto Mode", "Manual Mode", "Shutter Priority Mode",
+                                     "Aperture Priority Mode"};
+const char *const kPowerLineMenu[] = {"Disabled", "50 Hz", "60 Hz"};
+
+constexpr std::uint32_t kInteger = V4L2_CTRL_TYPE_INTEGER;
+constexpr std::uint32_t kBoolean = V4L2_CTRL_TYPE_BOOLEAN;
+constexpr std::uint32_t kMenu = V4L2_CTRL_TYPE_MENU;
+constexpr std::uint32_t kClass = V4L2_CTRL_TYPE_CTRL_CLASS;
+
+const Control kControls[] = {
+    {V4L2_CID_USER_CLASS, kClass, "User Controls", 0, 0, 0},
+    {V4L2_CID_BRIGHTNESS, kInteger, "Brightness", -64, 64, 0},
+    {V4L2_CID_CONTRAST, kInteger, "Contrast", 0, 64, 32},
+    {V4L2_CID_SATURATION, kInteger, "Saturation", 0, 128, 64},
+    {V4L2_CID_HUE, kInteger, "Hue", -40, 40, 0},
+    {V4L2_CID_AUTO_WHITE_BALANCE, kBoolean, "White Balance, Automatic", 0, 1, 1},
+    {V4L2_CID_GAMMA, kInteger, "Gamma", 72, 500, 100},
+    {V4L2_CID_GAIN, kInteger, "Gain", 0, 100, 0},
+    {V4L2_CID_POWER_LINE_FREQUENCY, kMenu, "Power Line Frequency", 0, 2, 1, kPowerLineMenu, 0b111},
+    {V4L2_CID_WHITE_BALANCE_TEMPERATURE, kInteger, "White Balance Temperature", 2800, 6500, 4600,
+     nullptr, 0, V4L2_CID_AUTO_WHITE_BALANCE, 0},
+    {V4L2_CID_SHARPNESS, kInteger, "Sharpness", 0, 6, 3},
+    {V4L2_CID_BACKLIGHT_COMPENSATION, kInteger, "Backlight Compensation", 0, 2, 1},
+    {V4L2_CID_CAMERA_CLASS, kClass, "Camera Controls", 0, 0, 0},
+    {V4L2_CID_EXPOSURE_AUTO, kMenu, "Auto Exposure", 0, 3, V4L2_EXPOSURE_APERTURE_PRIORITY,
+     kExposureMenu, 0b1010},
+    {V4L2_CID_EXPOSURE_ABSOLUTE, kInteger, "Exposure Time, Absolute", 1, 5000, kNominalExposure,
+     nullptr, 0, V4L2_CID_EXPOSURE_AUTO, V4L2_EXPOSURE_MANUAL},
+    {V4L2_CID_EXPOSURE_AUTO_PRIORITY, kBoolean, "Exposure, Dynamic Framerate", 0, 1, 0},
+    {V4L2_CID_FOCUS_ABSOLUTE, kInteger, "Focus, Absolute", 0, kFocusMax, 0, nullptr, 0,
+     V4L2_CID_FOCUS_AUTO, 0},
+    {V4L2_CID_FOCUS_AUTO, kBoolean, "Focus, Automatic Continuous", 0, 1, 1},
+};
+static_assert(std::size(kControls) <= State::kMaxControls);
+
+int valueOf(const State &state, std::uint32_t id)
+{
+    return state.control[slotOf(*findControl(id))];
+}
+
+bool isManualExposure(const State &state)
+{
+    return valueOf(state, V4L2_CID_EXPOSURE_AUTO) == V4L2_EXPOSURE_MANUAL;
+}
+
+} // namespace
+
+std::span<const Control> controls()
+{
+    return kControls;
+}
+
+const Control *findControl(std::uint32_t id)
+{
+    for (const Control &c : kControls)
+        if (c.id == id)
+            return &c;
+    return nullptr;
+}
+
+unsigned slotOf(const Control &control)
+{
+    return static_cast<unsigned>(&control - kControls);
+}
+
+std::uint32_t controlFlags(const State &state, const Control &control)
+{
+    std::uint32_t flags = 0;
+    if (control.isClass())
+        flags |= V4L2_CTRL_FLAG_READ_ONLY | V4L2_CTRL_FLAG_WRITE_ONLY;
+    for (const Control &other : kControls)
+        if (other.master == control.id)
+            flags |= V4L2_CTRL_FLAG_UPDATE;
+    if (control.master && valueOf(state, control.master) != control.masterManual)
+        flags |= V4L2_CTRL_FLAG_INACTIVE;
+    return flags;
+}
+
+int validate(const Control &control, std::int32_t &value)
+{
+    switch (control.type) {
+    case kBoolean:
+        value = value ? 1 : 0;
+        return 0;
+    case kMenu:
+        if (value < control.min || value > control.max)
+            return -ERANGE;
+        return control.menuMask >> value & 1 ? 0 : -EINVAL;
+    default:
+        value = std::clamp(value, control.min, control.max);
+        return 0;
+    }
+}
+
+Picture pictureOf(const State &state)
+{
+    const auto value = [&](std::uint32_t id) { return double(valueOf(state, id)); };
+    Picture p{};
+    p.exposure = isManualExposure(state) ? value(V4L2_CID_EXPOSURE_ABSOLUTE) / kNominalExposure : 1;
+    p.exposure *= 1 + 0.05 * (value(V4L2_CID_BACKLIGHT_COMPENSATION) - 1);
+    p.gain = 1 + value(V4L2_CID_GAIN) / 50;
+    p.contrast = value(V4L2_CID_CONTRAST) / 32;
+    p.brightness = value(V4L2_CID_BRIGHTNESS);
+    p.gamma = value(V4L2_CID_GAMMA) / 100;
+    p.saturation = value(V4L2_CID_SATURATION) / 64;
+    p.hue = value(V4L2_CID_HUE);
+    p.warmth = value(V4L2_CID_AUTO_WHITE_BALANCE) != 0
+                   ? 0
+                   : (value(V4L2_CID_WHITE_BALANCE_TEMPERATURE) - 4600) / 1900;
+    const int sharpness =
+        valueOf(state, V4L2_CID_SHARPNESS) - findControl(V4L2_CID_SHARPNESS)->defaultValue;
+    p.softness = std::max(0, -sharpness);
+    p.sharpness = std::max(0, sharpness);
+    double blur = state.get(Param::Defocus);
+    if (value(V4L2_CID_FOCUS_AUTO) == 0) {
+        const double away = value(V4L2_CID_FOCUS_ABSOLUTE) - double(state.get(Param::FocusBest));
+        blur = std::hypot(blur, away / kFocusMax * double(state.get(Param::FocusBlur)));
+    }
+    p.blur = blur;
+    return p;
+}
+
+double exposureTime(const State &state)
+{
+    return isManualExposure(state) ? valueOf(state, V4L2_CID_EXPOSURE_ABSOLUTE) * 1e-4 : 0;
+}
+
+} // namespace meridax::simcam

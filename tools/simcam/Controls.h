@@ -1,0 +1,62 @@
+#pragma once
+
+#include "StateFile.h"
+
+#include <linux/videodev2.h>
+#include <span>
+
+namespace meridax::simcam {
+
+/// One hardware control as V4L2 describes it.
+struct Control
+{
+    std::uint32_t id;
+    std::uint32_t type;
+    const char *name;
+    int min;
+    int max;
+    int defaultValue;
+    const char *const *menu = nullptr;
+    std::uint32_t menuMask = 0; ///< bit i: menu entry i exists
+    std::uint32_t master = 0;   ///< control whose automatic mode takes this one over
+    int masterManual = 0;       ///< value of the master that leaves this control to the user
+
+    bool isClass() const { return type == V4L2_CTRL_TYPE_CTRL_CLASS; }
+};
+
+/// All controls, ascending by id as walking them one by one needs.
+std::span<const Control> controls();
+const Control *findControl(std::uint32_t id);
+
+/// Slot of `control` in State::control.
+unsigned slotOf(const Control &control);
+
+/// V4L2_CTRL_FLAG_* of the control in the present state.
+std::uint32_t controlFlags(const State &state, const Control &control);
+
+/// Brings `value` into range as a driver does; 0, or a negative errno for a value it refuses.
+int validate(const Control &control, std::int32_t &value);
+
+/// What the controls make of the picture.
+struct Picture
+{
+    double exposure;   ///< factor of the light, 1 at the automatic exposure
+    double gain;       ///< factor of the signal and its noise
+    double contrast;   ///< slope about mid-grey
+    double brightness; ///< added [grey levels]
+    double gamma;      ///< 1 leaves the tones alone
+    double saturation; ///< factor of the colours
+    double hue;        ///< rotation of the colours [deg]
+    double warmth;     ///< -1 blue to 1 yellow, 0 neutral
+    int softness;      ///< steps of the sharpness control below its middle, else 0
+    int sharpness;     ///< steps above it, else 0
+    double blur;       ///< of focus and defocus, sigma [px at 720]
+
+    bool operator==(const Picture &) const = default;
+};
+Picture pictureOf(const State &state);
+
+/// Shortest time between two frames that the exposure leaves [s].
+double exposureTime(const State &state);
+
+} // namespace meridax::simcam

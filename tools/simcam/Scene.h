@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Controls.h"
+#include "Ground.h"
+#include "Planes.h"
+
+#include <array>
+#include <vector>
+
+namespace meridax::simcam {
+
+/// Everything that a frame of the scene depends on, taken from the state at one moment.
+struct SceneInputs
+{
+    GroundLayout ground{};
+    Picture picture{};
+    unsigned marks = 0;
+    std::array<Point, 2> mark; ///< [px]
+    double markRadius = 0;     ///< [px]
+    double markGrey = 0;
+    double noise = 0; ///< sigma of the pixel noise, gain included [grey levels]
+
+    bool operator==(const SceneInputs &) const = default;
+};
+
+/// Takes the inputs of frame `frame` at time `nowMs` from the state.
+SceneInputs sceneInputs(const State &state, FrameSize size, std::uint32_t frame,
+                        std::uint32_t nowMs);
+
+/// Draws the scene. Keeps the ground between frames, so that a frame in which only the mark has
+/// moved costs two small windows.
+class Scene
+{
+public:
+    /// The picture of `inputs` without pixel noise; valid until the next call.
+    const Planes &draw(const SceneInputs &inputs);
+
+private:
+    struct Window
+    {
+        int left = 0, top = 0, right = 0, bottom = 0;
+    };
+
+    void drawGround(const Picture &picture);
+    void drawMark(const SceneInputs &inputs, Point mark, const std::array<float, 257> &tones);
+    void restore(const Window &window);
+
+    Ground m_ground;
+    Ground::Mix m_mix{};
+    SceneInputs m_drawn;
+    std::vector<std::uint8_t> m_clean; ///< luma of the ground without any mark
+    std::vector<Window> m_dirty;       ///< windows of the marks drawn last
+    Planes m_planes;
+};
+
+} // namespace meridax::simcam
