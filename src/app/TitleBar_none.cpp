@@ -1,0 +1,7 @@
+#include "app/TitleBar.h"
+
+namespace meridax {
+
+void darkenTitleBar(QWindow &) {}
+
+} // namespace meridax

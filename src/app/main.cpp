@@ -1,0 +1,90 @@
+#include "app/SingleInstance.h"
+#include "app/TitleBar.h"
+#include "settings/SettingsFile.h"
+#include "viewmodel/LanguageSwitch.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QLockFile>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+#include <QStandardPaths>
+#include <QTranslator>
+#include <QWindow>
+
+// The QML module lies in a static library: without this reference the linker would drop the
+// registration of its types.
+void qml_register_types_Meridax();
+[[maybe_unused]] static const volatile auto keepModuleRegistration = &qml_register_types_Meridax;
+
+using namespace meridax;
+
+namespace {
+
+constexpr int kLockTimeoutMs = 100;
+
+void setApplicationIdentity()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Tarnwick Optics"));
+}
+
+QString dataFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+// Before any QML text exists, since the scene takes its texts from it.
+void installLanguage(QTranslator &translator)
+{
+    const QString language = loadSettings().language;
+    if (language == QLatin1StringView("de"))
+        return; // the texts of the sources are German
+    if (translator.load(QStringLiteral(":/i18n/%1.qm").arg(language))) {
+        QCoreApplication::installTranslator(&translator);
+        setStartupTranslator(&translator);
+    }
+}
+
+QWindow *rootWindow(const QQmlApplicationEngine &engine)
+{
+    return qobject_cast<QWindow *>(engine.rootObjects().value(0));
+}
+
+} // namespace
+
+// The order is a requirement: each step depends on the ones before it, and everything is destroyed
+// in the opposite order, the lock last.
+int main(int argc, char *argv[])
+{
+    // The data folder is derived from the names, and the lock lies in it.
+    setApplicationIdentity();
+    QLockFile lock(dataFolder() + QLatin1StringView("/meridax.lock"));
+    if (!lock.tryLock(kLockTimeoutMs)) {
+        activateRunningInstance();
+        return 0;
+    }
+
+    QGuiApplication app(argc, argv);
+    setApplicationIdentity();
+    QQuickStyle::setStyle(QStringLiteral("Material"));
+    QTranslator translator;
+    installLanguage(translator);
+
+    QQmlApplicationEngine engine;
+    setQmlEngine(&engine);
+    QObject::connect(
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &app,
+        [] { QCoreApplication::exit(-1); }, Qt::QueuedConnection);
+    engine.loadFromModule("Meridax", "Main");
+    if (QWindow *const window = rootWindow(engine))
+        darkenTitleBar(*window);
+
+    const ActivationServer activationServer([&engine] {
+        if (QWindow *const window = rootWindow(engine))
+            raiseWindow(*window);
+    });
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,179 @@
+#pragma once
+
+#include "camera/CameraCapabilities.h"
+#include "camera/ICameraBackend.h"
+#include "settings/AppSettings.h"
+
+#include <QCameraDevice>
+#include <QImage>
+#include <QMediaCaptureSession>
+#include <QMediaDevices>
+#include <QObject>
+#include <QPointF>
+#include <QVideoFrame>
+#include <QVideoSink>
+#include <QtQml/qqmlregistration.h>
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+class QCamera;
+namespace cv {
+class KeyPoint;
+class Mat;
+} // namespace cv
+
+namespace meridax {
+
+struct CalibrationSession;
+struct CalibrationSessionDeleter
+{
+    void operator()(CalibrationSession *session) const;
+};
+
+/// Owns the live camera: selects device and format, keeps the hardware controls in step with the
+/// settings, and moves each frame to the processing thread and from there to the screen.
+///
+/// At most one frame is in the pipeline at any time. What cannot be taken at once is dropped before
+/// any pixel is touched, so latency stays bounded by one frame whatever the resolution.
+///
+/// All operations belong to the GUI thread unless they say otherwise. Frames are in pixels of the
+/// sensor, origin top left, y downwards.
+class CameraController : public QObject
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    explicit CameraController(QObject *parent = nullptr);
+    ~CameraController() override;
+
+    /// Opens the camera that the current settings name. Success is known when
+    /// `runningChanged(true)` arrives; without a fitting device `errorOccurred` is raised.
+    void startCamera();
+    /// Closes the camera; safe when none is open. Does not wait for a frame being processed.
+    void stopCamera();
+    /// Takes the whole record and pushes what changed to the camera.
+    void updateSettings(const AppSettings &settings);
+    /// True when a camera exists and is active.
+    bool isRunning() const;
+    /// Copy of the last frame published by the live path. Any thread.
+    QImage latestFrame() const;
+
+    /// Begins a calibration of at least three positions; drops a frame in flight.
+    void startCalibration(int positions);
+    /// Ends a calibration without a result.
+    void cancelCalibration();
+    /// Begins to average the blob's position; ignored while no calibration is active.
+    void measurePosition();
+
+signals:
+    // The order is the meta-object's signal order and part of the interface.
+    void frameReady(const QImage &image);
+    void frameInfoChanged(const QString &info);
+    void actualResolutionChanged(int width, int height);
+    void statusChanged(const QString &status);
+    void runningChanged(bool running);
+    void blobsDetected(int count);
+    void blobMeasurementCaptured(const QPointF &point, int number);
+    void calibrationCompleted(const QPointF &center);
+    void measureProgressChanged(int framesDone, int framesTotal);
+    void calibrationFitDetails(int pointCount, double radius, double stdDev);
+    void calibrationQualityDetails(double centerSigma, double coverageGapDeg, int dominantOrder,
+                                   double dominantAmp);
+    void errorOccurred(const QString &message);
+    void focusRangeDetected(int minValue, int maxValue);
+    void focusSweepStarted();
+    void focusSweepProgress(int measured, int total);
+    void focusSweepFinished(int focusValue, int outcome);
+    void guideIndexChanged(int currentIndex, int total);
+    void blobInSectorChanged(bool inSector);
+    void blobSectorAlignmentChanged(double alignment);
+    void cameraCapabilitiesDetected(const meridax::CameraCapabilities &caps);
+
+public slots:
+    /// Entry of the pipeline; runs on the controller's thread.
+    void onVideoFrame(const QVideoFrame &frame);
+
+private:
+    /// A frame on its way from the GUI thread to the processing thread, with the settings as they
+    /// were when it was accepted: the processing thread never reads the live record.
+    struct PendingFrame
+    {
+        QImage image; ///< Format_RGB888
+        AppSettings settings;
+        std::uint64_t generation = 0;
+        bool calibration = false;
+    };
+
+    // Device, format and controls (CameraController_device.cpp)
+    void openCamera(const QCameraDevice &device);
+    void closeCameraAfterFailure();
+    bool deviceIsGone() const;
+    void applyCameraFormat();
+    void applyCameraControls();
+    void applyControlsThroughQt();
+    void onActiveChanged(bool active);
+    void onCameraError(const QString &errorText);
+    void onVideoInputsChanged();
+    void startCapabilityProbe();
+    void capabilityProbe(const CameraSettings &settings);
+    void deliverCapabilities(const CameraCapabilities &caps);
+    void joinCapabilityThread();
+
+    // The one-frame pipeline (CameraController_pipeline.cpp)
+    void invalidateFramesInFlight();
+    void processingLoop();
+    void processFrame(PendingFrame &frame);
+    void processCalibrationFrame(const PendingFrame &frame);
+    void publishFrame(const QImage &image);
+    void publishFrameSize(QSize size);
+
+    // Calibration (src/measurement/CameraController_calibration.cpp)
+    void createCalibrationSession();
+    bool isCalibrationActive() const;
+    void forgetBlobCount();
+    void resetBlobState();
+    void analyseCalibrationFrame(cv::Mat &frame, const AppSettings &settings);
+    void publishBlobCount(int count);
+    void publishSector(bool inSector, double alignment);
+    void measureBlob(cv::Mat &frame, const cv::KeyPoint &blob, int measureFrames);
+    void completeCalibration(cv::Mat &frame);
+
+    QMediaDevices m_devices;
+    QMediaCaptureSession m_session;
+    QCamera *m_camera = nullptr; ///< child of this; null while no camera is open
+    QCameraDevice m_device;      ///< what m_camera was opened on
+    QVideoSink m_sink;
+    std::unique_ptr<ICameraBackend> m_backend; ///< may be null
+    AppSettings m_settings;                    ///< GUI thread only
+    std::atomic<bool> m_detectorDirty = true;
+
+    bool m_capabilitiesQueried = false;
+    std::atomic<bool> m_capabilitiesProbeRunning = false;
+    std::thread m_capabilityThread;
+
+    std::thread m_processingThread;
+    std::mutex m_pendingMutex; ///< guards the next four
+    std::condition_variable m_pendingCondition;
+    PendingFrame m_pending;
+    bool m_hasPending = false;
+    bool m_stopRequested = false;
+
+    std::atomic<bool> m_frameInFlight = false; ///< a frame is accepted and not finished
+    std::atomic<bool> m_streaming = false;     ///< frames may be published
+    std::atomic<std::uint64_t> m_frameGeneration = 0;
+    std::atomic<int> m_lastWidth = -1;
+    std::atomic<int> m_lastHeight = -1;
+
+    mutable std::mutex m_lastFrameMutex; ///< guards m_lastFrame
+    QImage m_lastFrame;
+
+    std::unique_ptr<CalibrationSession, CalibrationSessionDeleter> m_calibration;
+};
+
+} // namespace meridax

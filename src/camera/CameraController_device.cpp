@@ -1,0 +1,192 @@
+#include "camera/CameraController.h"
+#include "camera/CameraScales.h"
+#include "camera/DeviceChoice.h"
+#include "camera/FormatChoice.h"
+
+#include <QCamera>
+#include <QCameraFormat>
+#include <QDebug>
+#include <QFile>
+
+#include <utility>
+#include <vector>
+
+namespace meridax {
+
+void CameraController::startCamera()
+{
+    stopCamera();
+    joinCapabilityThread();
+    m_capabilitiesQueried = false;
+    invalidateFramesInFlight();
+    m_streaming = true;
+
+    const QList<QCameraDevice> devices = QMediaDevices::videoInputs();
+    const qsizetype index = chooseDevice(devices, m_settings.camera);
+    if (index < 0) {
+        // The interface translates status texts at display; this one has no translation.
+        emit errorOccurred(QStringLiteral("Keine passende Kamera gefunden."));
+        emit runningChanged(false);
+        return;
+    }
+    openCamera(devices[index]);
+}
+
+void CameraController::openCamera(const QCameraDevice &device)
+{
+    m_device = device;
+    m_camera = new QCamera(device, this);
+    m_session.setCamera(m_camera);
+    // The format reaches the device only on a fresh or an active camera, never in between.
+    applyCameraFormat();
+    applyCameraControls();
+    connect(m_camera, &QCamera::activeChanged, this, &CameraController::onActiveChanged);
+    connect(m_camera, &QCamera::errorOccurred, this,
+            [this](QCamera::Error, const QString &text) { onCameraError(text); });
+    m_camera->setActive(true);
+}
+
+void CameraController::stopCamera()
+{
+    m_streaming = false;
+    invalidateFramesInFlight();
+
+    if (m_camera) {
+        m_camera->setActive(false);
+        // An error raised by the line above has already let go of the camera.
+        if (QCamera *const camera = std::exchange(m_camera, nullptr)) {
+            delete camera;
+            m_session.setCamera(nullptr);
+        }
+    }
+    m_lastWidth = -1;
+    m_lastHeight = -1;
+    forgetBlobCount();
+}
+
+void CameraController::onActiveChanged(bool active)
+{
+    emit runningChanged(active);
+    if (!active || !m_camera)
+        return;
+    // Once more, now on the running stream: some devices take no value before it runs.
+    applyCameraControls();
+    if (!std::exchange(m_capabilitiesQueried, true))
+        startCapabilityProbe();
+}
+
+void CameraController::onCameraError(const QString &errorText)
+{
+    qWarning().noquote() << "[camera] QCamera error:" << errorText;
+    emit errorOccurred(tr("Kamerafehler – bitte Gerät und Verbindung prüfen."));
+    closeCameraAfterFailure();
+    emit runningChanged(false);
+}
+
+void CameraController::closeCameraAfterFailure()
+{
+    QCamera *const camera = std::exchange(m_camera, nullptr);
+    if (!camera)
+        return;
+    // Its own signals would report the same failure a second time.
+    camera->disconnect(this);
+    camera->setActive(false);
+    camera->deleteLater();
+    m_session.setCamera(nullptr);
+}
+
+void CameraController::onVideoInputsChanged()
+{
+    // Qt reports an unplugged V4L2 camera here and nowhere else: the camera stays active, without
+    // an error, and further control calls on it crash (Qt 6.8). So the stream ends here.
+    if (m_camera && !QMediaDevices::videoInputs().contains(m_device))
+        onCameraError(QStringLiteral("Gerät nicht mehr vorhanden: %1").arg(m_device.description()));
+}
+
+bool CameraController::deviceIsGone() const
+{
+    // The notification of an unplugged device takes a moment. Ids that are device nodes can be
+    // asked directly, before a call into the dead camera.
+    const QString id = QString::fromLocal8Bit(m_device.id());
+    return id.startsWith(QLatin1Char('/')) && !QFile::exists(id);
+}
+
+void CameraController::applyCameraFormat()
+{
+    if (!m_camera || deviceIsGone())
+        return;
+    const QList<QCameraFormat> formats = m_device.videoFormats();
+    std::vector<FormatCandidate> candidates;
+    candidates.reserve(static_cast<size_t>(formats.size()));
+    for (const QCameraFormat &format : formats) {
+        candidates.push_back({format.resolution(), format.maxFrameRate(),
+                              format.pixelFormat() == QVideoFrameFormat::Format_Jpeg});
+    }
+    const QSize wanted(m_settings.camera.cameraResolutionX, m_settings.camera.cameraResolutionY);
+    if (const int best = chooseFormat(candidates, wanted); best >= 0)
+        m_camera->setCameraFormat(formats[best]);
+}
+
+void CameraController::applyCameraControls()
+{
+    if (!m_camera || deviceIsGone())
+        return;
+    m_camera->setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
+                                                             : QCamera::FocusModeAuto);
+    m_camera->setExposureMode(QCamera::ExposureAuto);
+    if (m_backend && m_backend->applySettings(m_settings.camera, nullptr))
+        return;
+    applyControlsThroughQt();
+}
+
+void CameraController::applyControlsThroughQt()
+{
+    const CameraSettings &camera = m_settings.camera;
+    if (camera.focusValue > 0)
+        m_camera->setFocusDistance(focusDistance(camera.focusValue, camera.focusRangeMax));
+    if (m_camera->supportedFeatures().testFlag(QCamera::Feature::ManualExposureTime)) {
+        m_camera->setExposureMode(QCamera::ExposureManual);
+        m_camera->setManualExposureTime(exposureSeconds(camera.captureTimeMs));
+    }
+}
+
+void CameraController::startCapabilityProbe()
+{
+    m_capabilitiesProbeRunning = true;
+    m_capabilityThread =
+        std::thread([this, settings = m_settings.camera] { capabilityProbe(settings); });
+}
+
+void CameraController::capabilityProbe(const CameraSettings &settings)
+{
+    CameraCapabilities caps;
+    if (m_backend && m_backend->queryCameraCapabilities(settings, &caps, nullptr)) {
+        for (const QString &line : capabilityLogLines(settings.cameraName, caps))
+            qInfo().noquote() << line;
+        QMetaObject::invokeMethod(
+            this, [this, caps] { deliverCapabilities(caps); }, Qt::QueuedConnection);
+        return;
+    }
+    qInfo().noquote() << "[CameraCaps] queryCameraCapabilities returned false — UI fällt auf "
+                         "Default-Ranges zurück";
+    m_capabilitiesProbeRunning = false;
+}
+
+void CameraController::deliverCapabilities(const CameraCapabilities &caps)
+{
+    emit cameraCapabilitiesDetected(caps);
+    if (caps.focus.supported && caps.focus.min < caps.focus.max) {
+        m_settings.camera.focusRangeMin = caps.focus.min;
+        m_settings.camera.focusRangeMax = caps.focus.max;
+        emit focusRangeDetected(caps.focus.min, caps.focus.max);
+    }
+    m_capabilitiesProbeRunning = false;
+}
+
+void CameraController::joinCapabilityThread()
+{
+    if (m_capabilityThread.joinable())
+        m_capabilityThread.join();
+}
+
+} // namespace meridax

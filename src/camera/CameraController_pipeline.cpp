@@ -1,0 +1,122 @@
+#include "camera/CameraController.h"
+#include "camera/FrameImage.h"
+#include "camera/SoftwareAdjustments.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <utility>
+
+namespace meridax {
+
+void CameraController::onVideoFrame(const QVideoFrame &frame)
+{
+    if (!frame.isValid())
+        return;
+    const bool calibration = isCalibrationActive();
+    // The drop decision comes before any pixel is touched.
+    if (m_frameInFlight.exchange(true))
+        return;
+
+    QImage image = frame.toImage();
+    image.convertTo(QImage::Format_RGB888);
+    if (image.isNull()) {
+        m_frameInFlight = false;
+        return;
+    }
+    {
+        const std::lock_guard lock(m_pendingMutex);
+        m_pending = {std::move(image), m_settings, m_frameGeneration, calibration};
+        m_hasPending = true;
+    }
+    m_pendingCondition.notify_one();
+}
+
+void CameraController::invalidateFramesInFlight()
+{
+    ++m_frameGeneration;
+    {
+        const std::lock_guard lock(m_pendingMutex);
+        m_hasPending = false;
+        m_pending.image = {};
+    }
+    m_frameInFlight = false;
+}
+
+void CameraController::processingLoop()
+{
+    std::unique_lock lock(m_pendingMutex);
+    while (true) {
+        m_pendingCondition.wait(lock, [this] { return m_stopRequested || m_hasPending; });
+        if (m_stopRequested)
+            return;
+        PendingFrame frame = std::exchange(m_pending, {});
+        m_hasPending = false;
+        lock.unlock();
+
+        if (frame.calibration)
+            processCalibrationFrame(frame);
+        else
+            processFrame(frame);
+        m_frameInFlight = false;
+
+        lock.lock();
+    }
+}
+
+void CameraController::processFrame(PendingFrame &frame)
+{
+    QImage image = std::move(frame.image);
+    const QDateTime now = QDateTime::currentDateTime();
+    if (adjustmentsAreNeutral(frame.settings.camera)) {
+        // Swapping the channels there and back would change no pixel, so the stamp goes straight
+        // into the image, which nobody shares.
+        cv::Mat rgb = wrapRgbImage(image);
+        drawTimeStamp(rgb, ChannelOrder::Rgb, now);
+    } else {
+        cv::Mat bgr;
+        cv::cvtColor(wrapRgbImage(std::as_const(image)), bgr, cv::COLOR_RGB2BGR);
+        applySoftwareAdjustments(bgr, frame.settings.camera);
+        drawTimeStamp(bgr, ChannelOrder::Bgr, now);
+        image = rgbImageFromBgr(bgr);
+    }
+    if (image.isNull() || frame.generation != m_frameGeneration)
+        return;
+    publishFrame(image);
+}
+
+void CameraController::publishFrame(const QImage &image)
+{
+    if (!m_streaming)
+        return;
+    publishFrameSize(image.size());
+    {
+        const std::lock_guard lock(m_lastFrameMutex);
+        m_lastFrame = image;
+    }
+    emit frameReady(image);
+}
+
+void CameraController::publishFrameSize(QSize size)
+{
+    const int oldWidth = m_lastWidth.exchange(size.width());
+    const int oldHeight = m_lastHeight.exchange(size.height());
+    if (oldWidth != size.width() || oldHeight != size.height())
+        emit actualResolutionChanged(size.width(), size.height());
+    emit frameInfoChanged(QStringLiteral("%1 x %2").arg(size.width()).arg(size.height()));
+}
+
+// Unlike the live path this one neither checks the generation nor keeps the frame: during a
+// calibration latestFrame() stays the last one from before it.
+void CameraController::processCalibrationFrame(const PendingFrame &frame)
+{
+    cv::Mat bgr;
+    cv::cvtColor(wrapRgbImage(frame.image), bgr, cv::COLOR_RGB2BGR);
+    applySoftwareAdjustments(bgr, frame.settings.camera);
+    analyseCalibrationFrame(bgr, frame.settings);
+    drawTimeStamp(bgr, ChannelOrder::Bgr, QDateTime::currentDateTime());
+    publishFrameSize({bgr.cols, bgr.rows});
+    if (m_streaming)
+        emit frameReady(rgbImageFromBgr(bgr));
+}
+
+} // namespace meridax

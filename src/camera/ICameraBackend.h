@@ -1,0 +1,35 @@
+#pragma once
+
+#include "camera/CameraCapabilities.h"
+#include "settings/AppSettings.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace meridax {
+
+/// The seam to platform camera control: everything that Qt's camera classes leave out.
+/// Implementations hold no state between calls, since applySettings() comes on the GUI thread and
+/// queryCameraCapabilities() on the capability thread, possibly at the same time.
+class ICameraBackend
+{
+public:
+    virtual ~ICameraBackend() = default;
+
+    /// Writes exposure, focus, brightness, contrast, saturation and gain to the device that
+    /// `settings` names. Returns true if at least one control was written. `error` may be null;
+    /// otherwise it is emptied and receives a text on failure.
+    virtual bool applySettings(const CameraSettings &settings, QString *error) = 0;
+
+    /// Resets `caps` and fills in every control the device answers for. Returns true if at least
+    /// one control is supported. `error` as in applySettings().
+    virtual bool queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
+                                         QString *error) = 0;
+};
+
+/// The backend of this platform, or null where there is none: the controller then uses Qt's own
+/// camera interface alone.
+std::unique_ptr<ICameraBackend> createCameraBackend();
+
+} // namespace meridax

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "measurement/CalibrationRun.h"
+
+#include <opencv2/core.hpp>
+#include <opencv2/features2d.hpp>
+
+#include <atomic>
+#include <mutex>
+
+namespace meridax {
+
+/// What the controller keeps of a calibration while GUI thread and processing thread share it.
+struct CalibrationSession
+{
+    std::mutex mutex; ///< the measurement mutex; guards `run`
+    CalibrationRun run;
+
+    // Mirrors of `run` for readers that do not wait: the GUI thread asks `active` for every frame,
+    // the sector test asks for the guide.
+    std::atomic<bool> active = false;
+    std::atomic<int> positions = 3;
+    std::atomic<int> guideIndex = 0;
+
+    // What was published last; the GUI thread resets it.
+    std::atomic<int> blobCount = -1; ///< -1: publish the next count whatever it is
+    std::atomic<bool> inSector = false;
+    std::atomic<double> alignment = 0.0;
+
+    // Processing thread only. The images are kept for their memory.
+    cv::Ptr<cv::SimpleBlobDetector> detector;
+    cv::Mat grey;
+    cv::Mat scaled;
+};
+
+} // namespace meridax

@@ -1,0 +1,125 @@
+import QtQuick
+import QtQuick.Controls.Material
+import QtQuick.Layouts
+import Meridax
+
+/// Asks whether a measured centre becomes the centre of the overlay. Every way to close it other
+/// than Yes discards the centre.
+Dialog {
+    id: dialog
+
+    readonly property var verdicts: [
+        { text: qsTr("Zentrum exzellent bestimmt"), color: "#4CAF50" },
+        { text: qsTr("Zentrum gut bestimmt"), color: "#8BC34A" },
+        { text: qsTr("Zentrum brauchbar — mehr Positionen empfohlen"), color: "#F57F17" },
+        { text: qsTr("Zentrum ungenau — bitte neu messen"), color: "#E53935" }
+    ]
+    readonly property var verdict: ViewModel.qualityAssessable
+                                   ? verdicts[ViewModel.qualityLevel]
+                                   : { text: qsTr("Güte nicht bewertbar"), color: Theme.textMuted }
+
+    parent: Overlay.overlay
+    anchors.centerIn: parent
+    width: 440
+    height: Math.min(implicitHeight, parent.height - 32)
+    modal: true
+    focus: true
+    visible: ViewModel.hasPendingCenter
+    title: qsTr("Kalibrierung abgeschlossen")
+    standardButtons: Dialog.Yes | Dialog.No
+
+    contentItem: Flickable {
+        id: flickable
+
+        objectName: "centerDialogContent"
+        implicitHeight: column.implicitHeight
+        contentWidth: width
+        contentHeight: column.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+
+        Keys.onUpPressed: scrollBar.decrease()
+        Keys.onDownPressed: scrollBar.increase()
+
+        ScrollBar.vertical: ScrollBar {
+            id: scrollBar
+
+            policy: flickable.contentHeight > flickable.height ? ScrollBar.AlwaysOn
+                                                               : ScrollBar.AlwaysOff
+        }
+
+        ColumnLayout {
+            id: column
+
+            width: flickable.width - (scrollBar.visible ? scrollBar.width : 0)
+            spacing: 10
+
+            Label {
+                text: qsTr("Gemessenes Zentrum übernehmen?")
+                font.pixelSize: 13
+                wrapMode: Text.WordWrap
+                Layout.fillWidth: true
+            }
+
+            CenterFigures {
+                visible: ViewModel.fitResultValid
+                qualityColor: dialog.verdict.color
+                Layout.fillWidth: true
+            }
+
+            Label {
+                objectName: "verdictLabel"
+                visible: ViewModel.fitResultValid
+                text: dialog.verdict.text
+                font {
+                    pixelSize: 16
+                    bold: true
+                }
+                color: dialog.verdict.color
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                Layout.fillWidth: true
+            }
+
+            Label {
+                objectName: "fewPointsNote"
+                visible: ViewModel.fitResultValid && ViewModel.fitPointCount <= 4
+                text: qsTr("Mit drei oder vier Messpunkten schmiegt sich der Kreis so eng an die "
+                           + "Punkte, dass Streuung und Genauigkeit nicht mehr aussagekräftig "
+                           + "sind — eine Formabweichung verschiebt den Mittelpunkt dann "
+                           + "unbemerkt. Das Zentrum ist als Näherung verwendbar. Für eine "
+                           + "belastbare Bewertung bitte mit mindestens sechs Positionen messen.")
+                font.pixelSize: 11
+                wrapMode: Text.WordWrap
+                Layout.fillWidth: true
+            }
+
+            ColumnLayout {
+                visible: ViewModel.fitResultValid && ViewModel.measurements.length >= 3
+                spacing: 10
+                Layout.fillWidth: true
+
+                Rectangle {
+                    implicitHeight: 1
+                    color: Theme.dividerMid
+                    Layout.fillWidth: true
+                }
+
+                ResidualPlot {
+                    Layout.fillWidth: true
+                }
+
+                Rectangle {
+                    implicitHeight: 1
+                    color: Theme.dividerMid
+                    Layout.fillWidth: true
+                }
+            }
+        }
+    }
+
+    onAboutToShow: flickable.contentY = 0
+    onRejected: ViewModel.discardPendingCenter()
+}

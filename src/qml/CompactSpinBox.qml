@@ -1,0 +1,27 @@
+import QtQuick
+import QtQuick.Controls.Material
+
+/// An editable spin box in the compact size of the panels. It follows `shownValue` except while it
+/// has the focus, so that typing is not overwritten.
+SpinBox {
+    id: root
+
+    property int shownValue: 0
+
+    implicitWidth: 120
+    implicitHeight: 36
+    topPadding: 0
+    bottomPadding: 0
+    font.pixelSize: 12
+    editable: true
+
+    Accessible.role: Accessible.SpinBox
+
+    Binding {
+        target: root
+        property: "value"
+        value: root.shownValue
+        when: !root.activeFocus
+        restoreMode: Binding.RestoreNone
+    }
+}

@@ -1,0 +1,13 @@
+import QtQuick
+import QtQuick.Controls.Material
+import QtQuick.Layouts
+import Meridax
+
+/// A figure in a table of results.
+Label {
+    Layout.fillWidth: true
+    font.pixelSize: 12
+    font.family: Theme.monoFont
+    elide: Text.ElideRight
+    color: Theme.text
+}

@@ -1,0 +1,13 @@
+import QtQuick
+import QtQuick.Controls.Material
+
+/// Frame around a composed control that has the keyboard focus. It fills its parent.
+Rectangle {
+    anchors.fill: parent
+    anchors.margins: -2
+    radius: 5
+    visible: parent?.activeFocus ?? false
+    color: "transparent"
+    border.width: 2
+    border.color: Material.accentColor
+}

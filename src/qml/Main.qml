@@ -1,0 +1,210 @@
+import QtQuick
+import QtQuick.Controls.Material
+import Meridax
+
+/// The one window of the program.
+ApplicationWindow {
+    id: root
+
+    readonly property int savedWidth: ViewModel.savedWindowWidth > 0 ? ViewModel.savedWindowWidth
+                                                                     : 1600
+    readonly property int savedHeight: ViewModel.savedWindowHeight > 0 ? ViewModel.savedWindowHeight
+                                                                       : 950
+    // Last known geometry while not maximized.
+    property int _normalW: 0
+    property int _normalH: 0
+    property int _normalX: 0
+    property int _normalY: 0
+
+    /// A frame has arrived since the camera started.
+    property bool hasFirstFrame: false
+    /// Below it the picture would shrink and the ground show on all sides.
+    readonly property real zoomMin: 1.0
+
+    /// `px` moved so that about 120 pixels of the window stay on the screen.
+    function safeX(px: int): int {
+        return Math.round(Math.max(Screen.virtualX - width + 120,
+                                   Math.min(Screen.virtualX + Screen.width - 120, px)));
+    }
+
+    /// `py` moved so that the title bar stays on the screen.
+    function safeY(py: int): int {
+        return Math.round(Math.max(Screen.virtualY,
+                                   Math.min(Screen.virtualY + Screen.height - 80, py)));
+    }
+
+    function noteNormalGeometry(px: int, py: int, w: int, h: int) {
+        _normalX = px;
+        _normalY = py;
+        _normalW = w;
+        _normalH = h;
+    }
+
+    /// Takes the start position. Only in the windowed state: a maximized window would move when its
+    /// position is written, and takes what it needs for restoring down from the noted geometry.
+    function placeOnStart() {
+        const placed = ViewModel.savedWindowWidth > 0;
+        const targetX = placed ? safeX(ViewModel.savedWindowX)
+                               : Math.round(Screen.virtualX + (Screen.width - savedWidth) / 2);
+        const targetY = placed ? safeY(ViewModel.savedWindowY)
+                               : Math.round(Screen.virtualY + (Screen.height - savedHeight) / 2);
+        if (visibility === Window.Windowed) {
+            x = targetX;
+            y = targetY;
+            noteNormalGeometry(x, y, width, height);
+        } else {
+            noteNormalGeometry(targetX, targetY, savedWidth, savedHeight);
+        }
+    }
+
+    function saveGeometry() {
+        const maximized = visibility === Window.Maximized || visibility === Window.FullScreen;
+        let [px, py, w, h] = maximized ? [_normalX, _normalY, _normalW, _normalH]
+                                       : [x, y, width, height];
+        if (w < 400 || h < 400) {
+            w = savedWidth;
+            h = savedHeight;
+        }
+        ViewModel.saveWindowGeometry(px, py, w, h, maximized);
+    }
+
+    // `visible` is deliberately not set: it shares its state with `visibility` and would undo
+    // Window.Maximized. The saved values are constant at run time, so these bindings are evaluated
+    // once.
+    visibility: ViewModel.savedWindowMaximized ? Window.Maximized : Window.Windowed
+    width: ViewModel.savedWindowWidth > 0 ? ViewModel.savedWindowWidth : 1600
+    height: ViewModel.savedWindowHeight > 0 ? ViewModel.savedWindowHeight : 950
+    minimumWidth: 800
+    minimumHeight: 600
+    title: "Meridax"
+    color: ViewModel.darkMode ? "#333333" : "#E8E8E8"
+    Material.theme: ViewModel.darkMode ? Material.Dark : Material.Light
+    Material.accent: "#4A9ECA"
+
+    onWidthChanged: normalGeometryCommit.restart()
+    onHeightChanged: normalGeometryCommit.restart()
+    onXChanged: normalGeometryCommit.restart()
+    onYChanged: normalGeometryCommit.restart()
+    onVisibilityChanged: normalGeometryCommit.restart()
+    onClosing: saveGeometry()
+    Component.onCompleted: placeOnStart()
+
+    // On maximizing, the platform changes the size first and the state afterwards, so the change
+    // handlers still see a window that is not maximized.
+    Timer {
+        id: normalGeometryCommit
+
+        objectName: "normalGeometryCommit"
+        interval: 300
+        onTriggered: {
+            if (root.visibility === Window.Windowed)
+                root.noteNormalGeometry(root.x, root.y, root.width, root.height);
+        }
+    }
+
+    Binding {
+        target: Theme
+        property: "dark"
+        value: ViewModel.darkMode
+    }
+
+    Connections {
+        target: ViewModel.controller
+
+        // A frame still in flight when the camera stops would put the last picture back.
+        function onFrameReady(image) {
+            if (!ViewModel.running)
+                return;
+            captureArea.videoItem.setFrame(image);
+            root.hasFirstFrame = true;
+        }
+    }
+
+    Connections {
+        target: ViewModel
+
+        function onRunningChanged() {
+            if (ViewModel.running)
+                return;
+            captureArea.videoItem.clearFrame();
+            root.hasFirstFrame = false;
+        }
+    }
+
+    WindowBackground {
+        anchors.fill: parent
+    }
+
+    LiveView {
+        id: captureArea
+
+        objectName: "captureArea"
+        anchors.fill: parent
+        hasFirstFrame: root.hasFirstFrame
+        zoomMin: root.zoomMin
+    }
+
+    Watermark {
+        objectName: "watermark"
+        anchors.centerIn: parent
+        width: Math.min(root.width, root.height) * 0.28
+        height: width
+        visible: !ViewModel.running
+    }
+
+    TopBar {
+        id: topBar
+
+        anchors {
+            top: parent.top
+            left: parent.left
+            right: parent.right
+        }
+    }
+
+    StatusBar {
+        id: footerBar
+
+        objectName: "footerBar"
+        anchors {
+            left: parent.left
+            right: parent.right
+            bottom: parent.bottom
+        }
+    }
+
+    ZoomControl {
+        objectName: "zoomControl"
+        z: 6
+        visible: ViewModel.running && !ViewModel.calibrationActive && ViewModel.showZoomOverlay
+        anchors {
+            horizontalCenter: parent.horizontalCenter
+            bottom: footerBar.top
+            bottomMargin: 12
+        }
+        zoomMin: root.zoomMin
+    }
+
+    LeftSettingsPanel {
+        id: leftPanel
+
+        objectName: "leftPanel"
+        anchors {
+            left: parent.left
+            top: topBar.bottom
+            topMargin: 16
+            bottom: footerBar.top
+            bottomMargin: 16
+        }
+    }
+
+    CenterDialog {
+        id: centerDialog
+
+        objectName: "centerDialog"
+        onAccepted: {
+            ViewModel.acceptPendingCenter();
+            leftPanel.switchToCamera();
+        }
+    }
+}

@@ -1,0 +1,150 @@
+import QtQuick
+import QtQuick.Controls.Material
+import QtQuick.Effects
+import QtQuick.Layouts
+import Meridax
+
+/// The bar at the top of the window: maker, camera, state of the connection, start and stop.
+Rectangle {
+    id: topBar
+
+    readonly property string cameraText: ViewModel.frameInfo === ""
+                                         ? ViewModel.selectedCameraName
+                                         : "%1  (%2)".arg(ViewModel.selectedCameraName)
+                                                     .arg(ViewModel.frameInfo)
+    readonly property string connectionText: {
+        if (ViewModel.running)
+            return qsTr("Kamera verbunden");
+        if (ViewModel.status !== "")
+            return qsTranslate("meridax::CameraController", ViewModel.status);
+        return qsTr("Kamera nicht verbunden");
+    }
+
+    implicitHeight: 90
+    color: Theme.topBarBg
+
+    InputShield {}
+
+    RowLayout {
+        anchors {
+            fill: parent
+            margins: 16
+        }
+        spacing: 10
+
+        MultiEffect {
+            visible: makerLogo.status === Image.Ready
+            source: makerLogo
+            colorization: 1
+            colorizationColor: Theme.logoColor
+            implicitWidth: makerLogo.implicitWidth / 2
+            implicitHeight: 56
+
+            Image {
+                id: makerLogo
+
+                source: "qrc:/resources/to_logo.png"
+                sourceSize.height: 112
+                visible: false
+                Accessible.ignored: true
+            }
+        }
+
+        BarSeparator {
+            visible: makerLogo.status === Image.Ready
+            color: Theme.separatorLine
+        }
+
+        Label {
+            text: "Meridax"
+            font {
+                pixelSize: 18
+                bold: true
+            }
+            color: Theme.text
+        }
+
+        Label {
+            visible: cameraLabel.visible
+            text: "|"
+            color: Theme.dividerMid
+        }
+
+        Label {
+            id: cameraLabel
+
+            objectName: "cameraLabel"
+            visible: ViewModel.selectedCameraName !== ""
+            text: topBar.cameraText
+            font.pixelSize: 13
+            color: ViewModel.running ? Theme.text : Theme.textMuted
+            elide: Text.ElideRight
+            Layout.fillWidth: true
+            Layout.maximumWidth: Math.min(380, Math.ceil(implicitWidth))
+        }
+
+        BarSeparator {
+            visible: ViewModel.running
+            color: Theme.dividerStrong
+        }
+
+        Rectangle {
+            visible: ViewModel.running
+            implicitWidth: 12
+            implicitHeight: 12
+            radius: 6
+            color: ViewModel.calibrated ? "#4CAF50" : "#F44336"
+        }
+
+        Label {
+            objectName: "calibrationLabel"
+            visible: ViewModel.running
+            text: ViewModel.calibrated ? qsTr("Kalibriert") : qsTr("Nicht kalibriert")
+            font.pixelSize: 12
+            color: ViewModel.calibrated ? "#4CAF50" : Theme.textMuted
+        }
+
+        Item {
+            Layout.fillWidth: true
+        }
+
+        Label {
+            objectName: "connectionLabel"
+            text: topBar.connectionText
+            font.pixelSize: 12
+            color: ViewModel.running ? Theme.text : Theme.textMuted
+            elide: Text.ElideRight
+            Layout.fillWidth: true
+            Layout.maximumWidth: Math.min(260, Math.ceil(implicitWidth))
+        }
+
+        Rectangle {
+            objectName: "blobPill"
+            visible: ViewModel.calibrationActive
+            implicitWidth: blobLabel.implicitWidth + 20
+            implicitHeight: 26
+            radius: 13
+            color: ViewModel.blobCount === 1 ? "#388E3C" : "#B71C1C"
+
+            Label {
+                id: blobLabel
+
+                objectName: "blobLabel"
+                anchors.centerIn: parent
+                text: ViewModel.blobCount === 1 ? qsTr("1 Blob ✓")
+                                                : qsTr("%1 Blobs").arg(ViewModel.blobCount)
+                font.pixelSize: 11
+                color: "#FFFFFF"
+            }
+        }
+
+        Button {
+            objectName: "startStopButton"
+            text: ViewModel.running ? qsTr("Stop") : qsTr("Start")
+            highlighted: true
+            Material.accent: ViewModel.running ? Material.Red : Material.Green
+            Accessible.name: text
+            onClicked: ViewModel.running ? ViewModel.stopCamera() : ViewModel.startCamera()
+        }
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import QtQuick.Controls
+import Meridax
+
+/// "−" or "+" beside the zoom slider.
+AbstractButton {
+    id: button
+
+    implicitWidth: 24
+    implicitHeight: 24
+    autoRepeat: true
+
+    contentItem: Label {
+        text: button.text
+        font.pixelSize: 16
+        color: "#FFFFFF"
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    background: Rectangle {
+        radius: width / 2
+        color: "transparent"
+        border.color: "#4A9ECA"
+        border.width: button.visualFocus ? 2 : 0
+    }
+}

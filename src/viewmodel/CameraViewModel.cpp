@@ -1,0 +1,125 @@
+#include "viewmodel/CameraViewModel.h"
+
+#include "BuildInfo.h"
+#include "settings/SettingsFile.h"
+#include "viewmodel/LanguageSwitch.h"
+
+#include <chrono>
+
+namespace meridax {
+
+CameraViewModel *CameraViewModel::create(QQmlEngine *engine, QJSEngine * /*scriptEngine*/)
+{
+    if (engine && !qmlEngine())
+        setQmlEngine(engine);
+    return new CameraViewModel;
+}
+
+CameraViewModel::CameraViewModel()
+{
+    using namespace std::chrono_literals;
+    m_saveTimer.setSingleShot(true);
+    m_saveTimer.setInterval(400ms);
+
+    m_settings = loadSettings();
+    // A centre in pixels counts only for the camera and resolution it was measured with, which
+    // nobody knows before the camera runs. The lock is the user's own and stays.
+    CameraSettings &camera = m_settings.camera;
+    camera.calibrated = false;
+    m_locked = camera.locked;
+    if (camera.cameraResolutionX > 0 && camera.cameraResolutionY > 0) {
+        camera.centerX = camera.cameraResolutionX * 0.5;
+        camera.centerY = camera.cameraResolutionY * 0.5;
+    }
+
+    connect(&m_saveTimer, &QTimer::timeout, this, &CameraViewModel::writeSettings);
+    connectController();
+    connectCalibration();
+    connect(&m_mediaDevices, &QMediaDevices::videoInputsChanged, this,
+            &CameraViewModel::refreshCameras);
+    refreshCameras();
+    m_controller.updateSettings(m_settings);
+}
+
+CameraViewModel::~CameraViewModel()
+{
+    m_controller.stopCamera();
+    writeSettings();
+}
+
+void CameraViewModel::connectController()
+{
+    connect(&m_controller, &CameraController::statusChanged, this, &CameraViewModel::onStatus);
+    connect(&m_controller, &CameraController::errorOccurred, this, &CameraViewModel::onStatus);
+    connect(&m_controller, &CameraController::frameInfoChanged, this, [this](const QString &info) {
+        m_frameInfo = info;
+        emit frameInfoChanged();
+    });
+    connect(&m_controller, &CameraController::runningChanged, this,
+            &CameraViewModel::onRunningChanged);
+    connect(&m_controller, &CameraController::focusRangeDetected, this,
+            [this](int minValue, int maxValue) {
+                m_settings.camera.focusRangeMin = minValue;
+                m_settings.camera.focusRangeMax = maxValue;
+                emit cameraSettingsChanged();
+            });
+    connect(&m_controller, &CameraController::cameraCapabilitiesDetected, this,
+            &CameraViewModel::onCapabilitiesDetected);
+}
+
+void CameraViewModel::onStatus(const QString &status)
+{
+    m_status = status;
+    emit statusChanged();
+}
+
+void CameraViewModel::onRunningChanged()
+{
+    emit runningChanged();
+    // The signal may be older than the controller's state.
+    if (running()) {
+        onStatus({});
+        return;
+    }
+    storeCalibrationActive(false);
+    m_settings.camera.focusRangeMin = 0;
+    m_settings.camera.focusRangeMax = 0;
+    emit cameraSettingsChanged();
+    m_capabilities = {};
+    emit cameraCapabilitiesChanged();
+}
+
+void CameraViewModel::settingsChanged(Notify notify)
+{
+    m_controller.updateSettings(m_settings);
+    (this->*notify)();
+    m_saveTimer.start();
+}
+
+void CameraViewModel::writeSettings() const
+{
+    // Nobody is told of a failure: the program goes on with the settings it has.
+    saveSettings(m_settings);
+}
+
+QString CameraViewModel::docsUrl() const
+{
+    return QStringLiteral("https://docs.tarnwick-optics.example/meridax/");
+}
+
+QString CameraViewModel::appVersion() const
+{
+    return build::version();
+}
+
+QString CameraViewModel::appCommitSha() const
+{
+    return build::commit();
+}
+
+QString CameraViewModel::appBuildTime() const
+{
+    return build::buildTime();
+}
+
+} // namespace meridax

@@ -1,0 +1,457 @@
+#pragma once
+
+#include "camera/CameraCapabilities.h"
+#include "camera/CameraController.h"
+#include "settings/AppSettings.h"
+#include "viewmodel/CameraList.h"
+
+#include <QColor>
+#include <QMediaDevices>
+#include <QObject>
+#include <QPointF>
+#include <QSize>
+#include <QStringList>
+#include <QTimer>
+#include <QTranslator>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+#include <type_traits>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace meridax {
+
+// clang-format off
+/// The six properties of one hardware control's range and their getters.
+#define MERIDAX_CONTROL_RANGE(control)                                                             \
+    Q_PROPERTY(int control##RangeMin READ control##RangeMin NOTIFY cameraCapabilitiesChanged)      \
+    Q_PROPERTY(int control##RangeMax READ control##RangeMax NOTIFY cameraCapabilitiesChanged)      \
+    Q_PROPERTY(int control##RangeStep READ control##RangeStep NOTIFY cameraCapabilitiesChanged)    \
+    Q_PROPERTY(                                                                                    \
+        int control##RangeDefault READ control##RangeDefault NOTIFY cameraCapabilitiesChanged)     \
+    Q_PROPERTY(bool control##Supported READ control##Supported NOTIFY cameraCapabilitiesChanged)   \
+    Q_PROPERTY(bool control##CanAuto READ control##CanAuto NOTIFY cameraCapabilitiesChanged)       \
+public:                                                                                            \
+    int control##RangeMin() const { return m_capabilities.control.min; }                           \
+    int control##RangeMax() const { return m_capabilities.control.max; }                           \
+    int control##RangeStep() const { return m_capabilities.control.step; }                         \
+    int control##RangeDefault() const { return m_capabilities.control.defaultValue; }              \
+    bool control##Supported() const { return m_capabilities.control.supported; }                   \
+    bool control##CanAuto() const { return m_capabilities.control.canAuto; }                       \
+                                                                                                   \
+private:
+
+/// A setting whose writer stores the value with `store` (one of the private helpers store...).
+#define MERIDAX_SETTING(type, name, setter, field, store, notify)                                  \
+    Q_PROPERTY(type name READ name WRITE setter NOTIFY notify)                                     \
+public:                                                                                            \
+    type name() const { return m_settings.field; }                                                 \
+    void setter(const type &value) { store(m_settings.field, value); }                             \
+                                                                                                   \
+private:
+
+#define MERIDAX_OVERLAY_SETTING(type, name, setter, field)                                         \
+    MERIDAX_SETTING(type, name, setter, camera.field, storeOverlay, overlaySettingsChanged)
+#define MERIDAX_BLOB_SETTING(type, name, setter, field)                                            \
+    MERIDAX_SETTING(type, name, setter, blob.field, storeBlob, blobSettingsChanged)
+#define MERIDAX_APP_SETTING(type, name, setter)                                                    \
+    MERIDAX_SETTING(type, name, setter, name, storeApplication, appSettingsChanged)
+// clang-format on
+
+/// The one object the interface sees: every value the panels show is a property of it, everything
+/// they do is one of its slots. It owns the camera controller and the only live copy of the
+/// settings, hands the whole record to the controller after each change and schedules the writing
+/// of the settings file.
+///
+/// Lives in the GUI thread; holds no lock. Positions and lengths are in pixels of the camera frame
+/// (origin top left, y downwards) unless they say otherwise, angles in degrees. Setters do not
+/// fail; a slot ignores an argument out of range without a message.
+class CameraViewModel : public QObject
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ViewModel)
+    QML_SINGLETON
+
+    // Live camera
+    Q_PROPERTY(bool running READ running NOTIFY runningChanged)
+    Q_PROPERTY(QString status READ status NOTIFY statusChanged)
+    Q_PROPERTY(QString frameInfo READ frameInfo NOTIFY frameInfoChanged)
+    Q_PROPERTY(int blobCount READ blobCount NOTIFY blobCountChanged)
+
+    // Calibration
+    Q_PROPERTY(bool calibrationActive READ calibrationActive NOTIFY calibrationActiveChanged)
+    Q_PROPERTY(int currentGuideIndex READ currentGuideIndex NOTIFY guideStateChanged)
+    Q_PROPERTY(int totalGuidePositions READ totalGuidePositions NOTIFY guideStateChanged)
+    Q_PROPERTY(bool blobInSector READ blobInSector NOTIFY guideStateChanged)
+    Q_PROPERTY(double blobSectorAlignment READ blobSectorAlignment NOTIFY guideStateChanged)
+    Q_PROPERTY(QVariantList measurements READ measurements NOTIFY measurementsChanged)
+    Q_PROPERTY(double pendingCenterX READ pendingCenterX NOTIFY pendingCenterChanged)
+    Q_PROPERTY(double pendingCenterY READ pendingCenterY NOTIFY pendingCenterChanged)
+    Q_PROPERTY(bool hasPendingCenter READ hasPendingCenter NOTIFY pendingCenterChanged)
+    Q_PROPERTY(double fitRadius READ fitRadius NOTIFY fitResultChanged)
+    Q_PROPERTY(double fitStdDev READ fitStdDev NOTIFY fitResultChanged)
+    Q_PROPERTY(int fitPointCount READ fitPointCount NOTIFY fitResultChanged)
+    Q_PROPERTY(bool fitResultValid READ fitResultValid NOTIFY fitResultChanged)
+    Q_PROPERTY(double centerSigma READ centerSigma NOTIFY fitResultChanged)
+    Q_PROPERTY(double coverageGapDeg READ coverageGapDeg NOTIFY fitResultChanged)
+    Q_PROPERTY(bool coveragePoor READ coveragePoor NOTIFY fitResultChanged)
+    Q_PROPERTY(int dominantOrder READ dominantOrder NOTIFY fitResultChanged)
+    Q_PROPERTY(double dominantAmp READ dominantAmp NOTIFY fitResultChanged)
+    Q_PROPERTY(int qualityLevel READ qualityLevel NOTIFY fitResultChanged)
+    Q_PROPERTY(bool qualityAssessable READ qualityAssessable NOTIFY fitResultChanged)
+    Q_PROPERTY(int measureFramesDone READ measureFramesDone NOTIFY measureProgressChanged)
+    Q_PROPERTY(int measureFramesTotal READ measureFramesTotal NOTIFY measureProgressChanged)
+    Q_PROPERTY(bool measureInProgress READ measureInProgress NOTIFY measureProgressChanged)
+    Q_PROPERTY(double measureProgressRatio READ measureProgressRatio NOTIFY measureProgressChanged)
+    Q_PROPERTY(bool calibrated READ calibrated NOTIFY calibratedChanged)
+    Q_PROPERTY(bool locked READ locked NOTIFY lockStateChanged)
+    Q_PROPERTY(int calibrationPositions READ calibrationPositions WRITE setCalibrationPositions
+                   NOTIFY calibrationSettingsChanged)
+    Q_PROPERTY(int calibrationMeasureFrames READ calibrationMeasureFrames WRITE
+                   setCalibrationMeasureFrames NOTIFY calibrationSettingsChanged)
+
+    // Camera selection and values
+    Q_PROPERTY(QStringList cameraNames READ cameraNames NOTIFY cameraListChanged)
+    Q_PROPERTY(int selectedCameraIndex READ selectedCameraIndex WRITE setSelectedCameraIndex NOTIFY
+                   cameraListChanged)
+    Q_PROPERTY(QString selectedCameraName READ selectedCameraName NOTIFY cameraListChanged)
+    Q_PROPERTY(int focusRangeMin READ focusRangeMin NOTIFY cameraListChanged)
+    Q_PROPERTY(int focusRangeMax READ focusRangeMax NOTIFY cameraListChanged)
+    Q_PROPERTY(QStringList resolutionOptions READ resolutionOptions NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int selectedResolutionIndex READ selectedResolutionIndex WRITE
+                   setSelectedResolutionIndex NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int resolutionMinX READ resolutionMinX NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int resolutionMinY READ resolutionMinY NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int resolutionMaxX READ resolutionMaxX NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int resolutionMaxY READ resolutionMaxY NOTIFY cameraSettingsChanged)
+    MERIDAX_SETTING(int, resolutionX, setResolutionX, camera.cameraResolutionX, storeCamera,
+                    cameraSettingsChanged)
+    MERIDAX_SETTING(int, resolutionY, setResolutionY, camera.cameraResolutionY, storeCamera,
+                    cameraSettingsChanged)
+    MERIDAX_SETTING(int, focusValue, setFocusValue, camera.focusValue, storeCamera,
+                    cameraSettingsChanged)
+    Q_PROPERTY(int exposure READ exposure WRITE setExposure NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int brightness READ brightness WRITE setBrightness NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int contrast READ contrast WRITE setContrast NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int saturation READ saturation WRITE setSaturation NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int gain READ gain WRITE setGain NOTIFY cameraSettingsChanged)
+    MERIDAX_CONTROL_RANGE(exposure)
+    MERIDAX_CONTROL_RANGE(brightness)
+    MERIDAX_CONTROL_RANGE(contrast)
+    MERIDAX_CONTROL_RANGE(saturation)
+    MERIDAX_CONTROL_RANGE(gain)
+
+    // Overlay. Line widths are in screen pixels; line styles and cross types as in AppSettings.h.
+    Q_PROPERTY(double centerX READ centerX WRITE setCenterX NOTIFY overlaySettingsChanged)
+    Q_PROPERTY(double centerY READ centerY WRITE setCenterY NOTIFY overlaySettingsChanged)
+    MERIDAX_OVERLAY_SETTING(double, offsetX, setOffsetX, centerOffsetX)
+    MERIDAX_OVERLAY_SETTING(double, offsetY, setOffsetY, centerOffsetY)
+    MERIDAX_OVERLAY_SETTING(bool, offsetEnabled, setOffsetEnabled, centerOffsetEnabled)
+    MERIDAX_OVERLAY_SETTING(double, zoom, setZoom, zoom)
+    MERIDAX_OVERLAY_SETTING(bool, circle1Enabled, setCircle1Enabled, circle1.enabled)
+    MERIDAX_OVERLAY_SETTING(double, circle1Radius, setCircle1Radius, circle1.radius)
+    MERIDAX_OVERLAY_SETTING(QColor, circle1Color, setCircle1Color, circle1.color)
+    MERIDAX_OVERLAY_SETTING(double, circle1LineWidth, setCircle1LineWidth, circle1.lineWidth)
+    MERIDAX_OVERLAY_SETTING(int, circle1LineStyle, setCircle1LineStyle, circle1.lineStyle)
+    MERIDAX_OVERLAY_SETTING(bool, circle2Enabled, setCircle2Enabled, circle2.enabled)
+    MERIDAX_OVERLAY_SETTING(double, circle2Radius, setCircle2Radius, circle2.radius)
+    MERIDAX_OVERLAY_SETTING(QColor, circle2Color, setCircle2Color, circle2.color)
+    MERIDAX_OVERLAY_SETTING(double, circle2LineWidth, setCircle2LineWidth, circle2.lineWidth)
+    MERIDAX_OVERLAY_SETTING(int, circle2LineStyle, setCircle2LineStyle, circle2.lineStyle)
+    MERIDAX_OVERLAY_SETTING(bool, circle3Enabled, setCircle3Enabled, circle3.enabled)
+    MERIDAX_OVERLAY_SETTING(double, circle3Radius, setCircle3Radius, circle3.radius)
+    MERIDAX_OVERLAY_SETTING(QColor, circle3Color, setCircle3Color, circle3.color)
+    MERIDAX_OVERLAY_SETTING(double, circle3LineWidth, setCircle3LineWidth, circle3.lineWidth)
+    MERIDAX_OVERLAY_SETTING(int, circle3LineStyle, setCircle3LineStyle, circle3.lineStyle)
+    MERIDAX_OVERLAY_SETTING(bool, crossEnabled, setCrossEnabled, cross.enabled)
+    MERIDAX_OVERLAY_SETTING(double, crossAngle, setCrossAngle, cross.angle)
+    MERIDAX_OVERLAY_SETTING(QColor, crossColor, setCrossColor, cross.color)
+    MERIDAX_OVERLAY_SETTING(double, crossLineWidth, setCrossLineWidth, cross.lineWidth)
+    MERIDAX_OVERLAY_SETTING(int, crossLineStyle, setCrossLineStyle, cross.lineStyle)
+    MERIDAX_OVERLAY_SETTING(int, crossType, setCrossType, cross.type)
+
+    // Blob detector; areas in squared pixels of the detection image
+    MERIDAX_BLOB_SETTING(double, blobMinThreshold, setBlobMinThreshold, minThreshold)
+    MERIDAX_BLOB_SETTING(double, blobMaxThreshold, setBlobMaxThreshold, maxThreshold)
+    MERIDAX_BLOB_SETTING(bool, blobFilterArea, setBlobFilterArea, filterByArea)
+    MERIDAX_BLOB_SETTING(double, blobMinArea, setBlobMinArea, minArea)
+    MERIDAX_BLOB_SETTING(double, blobMaxArea, setBlobMaxArea, maxArea)
+    MERIDAX_BLOB_SETTING(bool, blobFilterCircularity, setBlobFilterCircularity, filterByCircularity)
+    MERIDAX_BLOB_SETTING(double, blobMinCircularity, setBlobMinCircularity, minCircularity)
+    MERIDAX_BLOB_SETTING(bool, blobFilterInertia, setBlobFilterInertia, filterByInertia)
+    MERIDAX_BLOB_SETTING(double, blobMinInertiaRatio, setBlobMinInertiaRatio, minInertiaRatio)
+
+    // Application settings. The saved window geometry is in screen pixels and never notified.
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY appSettingsChanged)
+    MERIDAX_APP_SETTING(bool, darkMode, setDarkMode)
+    MERIDAX_APP_SETTING(QString, screenshotPath, setScreenshotPath)
+    MERIDAX_APP_SETTING(bool, screenshotIncludeOverlays, setScreenshotIncludeOverlays)
+    MERIDAX_APP_SETTING(bool, focusPresetIncludeMarkers, setFocusPresetIncludeMarkers)
+    MERIDAX_APP_SETTING(bool, focusPresetShowValue, setFocusPresetShowValue)
+    MERIDAX_APP_SETTING(bool, cameraPanelExpandedAtStart, setCameraPanelExpandedAtStart)
+    MERIDAX_APP_SETTING(bool, overlayPanelExpandedAtStart, setOverlayPanelExpandedAtStart)
+    MERIDAX_APP_SETTING(bool, showTooltips, setShowTooltips)
+    MERIDAX_APP_SETTING(bool, showZoomOverlay, setShowZoomOverlay)
+    Q_PROPERTY(bool rememberCollapsedSections READ rememberCollapsedSections WRITE
+                   setRememberCollapsedSections NOTIFY appSettingsChanged)
+    Q_PROPERTY(int savedWindowWidth READ savedWindowWidth NOTIFY appSettingsChanged)
+    Q_PROPERTY(int savedWindowHeight READ savedWindowHeight NOTIFY appSettingsChanged)
+    Q_PROPERTY(int savedWindowX READ savedWindowX NOTIFY appSettingsChanged)
+    Q_PROPERTY(int savedWindowY READ savedWindowY NOTIFY appSettingsChanged)
+    Q_PROPERTY(bool savedWindowMaximized READ savedWindowMaximized NOTIFY appSettingsChanged)
+
+    // Constants
+    Q_PROPERTY(QString docsUrl READ docsUrl CONSTANT)
+    Q_PROPERTY(QString appVersion READ appVersion CONSTANT)
+    Q_PROPERTY(QString appCommitSha READ appCommitSha CONSTANT)
+    Q_PROPERTY(QString appBuildTime READ appBuildTime CONSTANT)
+    Q_PROPERTY(meridax::CameraController *controller READ controller CONSTANT)
+
+public:
+    /// Factory of the QML singleton; the engine owns the result. The first engine given is
+    /// remembered for the language switch.
+    static CameraViewModel *create(QQmlEngine *engine, QJSEngine *scriptEngine);
+    /// Stops the camera and writes the settings file.
+    ~CameraViewModel() override;
+
+    bool running() const { return m_controller.isRunning(); }
+    QString status() const { return m_status; }
+    QString frameInfo() const { return m_frameInfo; }
+    int blobCount() const { return m_blobCount; }
+
+    bool calibrationActive() const { return m_calibrationActive; }
+    int currentGuideIndex() const { return m_currentGuideIndex; }
+    int totalGuidePositions() const { return m_totalGuidePositions; }
+    bool blobInSector() const { return m_blobInSector; }
+    double blobSectorAlignment() const { return m_blobSectorAlignment; }
+    QVariantList measurements() const { return m_measurements; }
+    double pendingCenterX() const { return m_pendingCenter.x(); }
+    double pendingCenterY() const { return m_pendingCenter.y(); }
+    bool hasPendingCenter() const { return m_hasPendingCenter; }
+    double fitRadius() const { return m_fitRadius; }
+    double fitStdDev() const { return m_fitStdDev; }
+    int fitPointCount() const { return m_fitPointCount; }
+    bool fitResultValid() const;
+    double centerSigma() const { return m_centerSigma; }
+    double coverageGapDeg() const { return m_coverageGapDeg; }
+    bool coveragePoor() const;
+    int dominantOrder() const { return m_dominantOrder; }
+    double dominantAmp() const { return m_dominantAmp; }
+    int qualityLevel() const;
+    bool qualityAssessable() const;
+    int measureFramesDone() const { return m_measureFramesDone; }
+    int measureFramesTotal() const { return m_measureFramesTotal; }
+    bool measureInProgress() const { return m_measureFramesTotal > 0; }
+    double measureProgressRatio() const;
+    bool calibrated() const { return m_calibrated; }
+    bool locked() const { return m_locked; }
+    int calibrationPositions() const { return m_settings.calibrationPositions; }
+    void setCalibrationPositions(int positions);
+    int calibrationMeasureFrames() const { return m_settings.calibrationMeasureFrames; }
+    void setCalibrationMeasureFrames(int frames);
+
+    QStringList cameraNames() const { return m_cameraNames; }
+    int selectedCameraIndex() const { return m_selectedCameraIndex; }
+    void setSelectedCameraIndex(int index);
+    QString selectedCameraName() const { return m_cameraNames.value(m_selectedCameraIndex); }
+    int focusRangeMin() const { return m_settings.camera.focusRangeMin; }
+    int focusRangeMax() const { return m_settings.camera.focusRangeMax; }
+    QStringList resolutionOptions() const;
+    int selectedResolutionIndex() const;
+    void setSelectedResolutionIndex(int index);
+    int resolutionMinX() const { return selectedLimits().smallest.width(); }
+    int resolutionMinY() const { return selectedLimits().smallest.height(); }
+    int resolutionMaxX() const { return selectedLimits().largest.width(); }
+    int resolutionMaxY() const { return selectedLimits().largest.height(); }
+    int exposure() const { return m_settings.camera.captureTimeMs; }
+    void setExposure(int value);
+    int brightness() const { return m_settings.camera.brightness; }
+    void setBrightness(int value);
+    int contrast() const { return m_settings.camera.contrast; }
+    void setContrast(int value);
+    int saturation() const { return m_settings.camera.saturation; }
+    void setSaturation(int value);
+    int gain() const { return m_settings.camera.gain; }
+    void setGain(int value);
+
+    double centerX() const { return m_settings.camera.centerX; }
+    void setCenterX(double x) { storeCenter(m_settings.camera.centerX, x); }
+    double centerY() const { return m_settings.camera.centerY; }
+    void setCenterY(double y) { storeCenter(m_settings.camera.centerY, y); }
+
+    QString language() const { return m_settings.language; }
+    void setLanguage(const QString &language);
+    bool rememberCollapsedSections() const { return m_settings.rememberCollapsedSections; }
+    void setRememberCollapsedSections(bool remember);
+    int savedWindowWidth() const { return m_settings.windowWidth; }
+    int savedWindowHeight() const { return m_settings.windowHeight; }
+    int savedWindowX() const { return m_settings.windowX; }
+    int savedWindowY() const { return m_settings.windowY; }
+    bool savedWindowMaximized() const { return m_settings.windowMaximized; }
+
+    QString docsUrl() const;
+    QString appVersion() const;
+    QString appCommitSha() const;
+    QString appBuildTime() const;
+    CameraController *controller() { return &m_controller; }
+
+public slots:
+    /// Remembers the window's normal geometry (screen pixels) and writes the file at once. Below
+    /// 400 x 400 only `maximized` is taken.
+    void saveWindowGeometry(int x, int y, int width, int height, bool maximized);
+    /// Whether the section `key` was left closed, `defaultCollapsed` when nothing is remembered.
+    bool sectionCollapsed(const QString &key, bool defaultCollapsed) const;
+    void setSectionCollapsed(const QString &key, bool collapsed);
+    void copyToClipboard(const QString &text);
+
+    /// Starts the selected camera; success is known when `running` turns true.
+    void startCamera();
+    void stopCamera();
+    /// Lists the attached cameras anew and selects the remembered one, or else the first.
+    void refreshCameras();
+
+    /// Begins a calibration of `calibrationPositions` positions; a pending centre is dropped.
+    void startCalibration();
+    void measurePosition();
+    void cancelCalibration();
+    /// Makes the pending centre the image centre and sets the lock; nothing without one.
+    void acceptPendingCenter();
+    void discardPendingCenter();
+    void unlockCalibration();
+    void lockCalibration();
+
+signals:
+    void runningChanged();
+    void statusChanged();
+    void frameInfoChanged();
+    void blobCountChanged();
+    void calibrationActiveChanged();
+    void guideStateChanged();
+    void measurementsChanged();
+    void pendingCenterChanged();
+    void fitResultChanged();
+    void measureProgressChanged();
+    void calibratedChanged();
+    void lockStateChanged();
+    void cameraListChanged();
+    void cameraSettingsChanged();
+    void cameraCapabilitiesChanged();
+    void overlaySettingsChanged();
+    void blobSettingsChanged();
+    void calibrationSettingsChanged();
+    void appSettingsChanged();
+
+private:
+    using Notify = void (CameraViewModel::*)();
+
+    CameraViewModel();
+    void connectController();
+    void connectCalibration();
+
+    /// The common end of a setter that concerns the camera: the controller takes the whole record,
+    /// the interface hears of it, the file is written after the last of a burst of changes.
+    void settingsChanged(Notify notify);
+
+    template <typename T>
+    void storeCamera(T &field, const std::type_identity_t<T> &value)
+    {
+        field = value;
+        settingsChanged(&CameraViewModel::cameraSettingsChanged);
+    }
+
+    template <typename T>
+    void storeOverlay(T &field, const std::type_identity_t<T> &value)
+    {
+        field = value;
+        settingsChanged(&CameraViewModel::overlaySettingsChanged);
+    }
+
+    template <typename T>
+    void storeBlob(T &field, const std::type_identity_t<T> &value)
+    {
+        field = value;
+        settingsChanged(&CameraViewModel::blobSettingsChanged);
+    }
+
+    /// Application settings do not concern the camera; an equal value changes nothing.
+    template <typename T>
+    void storeApplication(T &field, const std::type_identity_t<T> &value)
+    {
+        if (field == value)
+            return;
+        field = value;
+        emit appSettingsChanged();
+        m_saveTimer.start();
+    }
+
+    void storeControl(int &field, int value, const ControlRange &range);
+    void storeCenter(double &coordinate, double value);
+    void storeCalibrated(bool calibrated);
+    void storeLocked(bool locked);
+    void storeCalibrationActive(bool active);
+    void storeMeasureProgress(int framesDone, int framesTotal);
+    void changeLock(bool locked);
+
+    QList<CameraFormatInfo> selectedFormats() const;
+    ResolutionLimits selectedLimits() const;
+    bool hasSelectedCamera() const;
+    QSize resolution() const;
+    void storeSelectedCamera();
+    void selectFormat(const CameraFormatInfo &format);
+    void snapToNearestFormat();
+    void applyResolutionChange(const QSize &oldSize, const QSize &newSize);
+    void resetCameraValues();
+
+    void onRunningChanged();
+    void onStatus(const QString &status);
+    void onCapabilitiesDetected(const CameraCapabilities &caps);
+    void migrateExposure();
+    void writeSettings() const;
+
+    CameraController m_controller;
+    AppSettings m_settings;
+    CameraCapabilities m_capabilities;
+    QMediaDevices m_mediaDevices;
+
+    QList<CameraDeviceInfo> m_cameras;
+    QStringList m_cameraNames;
+    int m_selectedCameraIndex = 0;
+
+    QString m_status;
+    QString m_frameInfo;
+    int m_blobCount = 0;
+
+    bool m_calibrationActive = false;
+    int m_currentGuideIndex = 0;
+    int m_totalGuidePositions = 4;
+    bool m_blobInSector = false;
+    double m_blobSectorAlignment = 0.0;
+    QVariantList m_measurements;
+    QPointF m_pendingCenter;
+    bool m_hasPendingCenter = false;
+    double m_fitRadius = 0.0;
+    double m_fitStdDev = 0.0;
+    int m_fitPointCount = 0;
+    double m_centerSigma = 0.0;
+    double m_coverageGapDeg = 0.0;
+    int m_dominantOrder = 0;
+    double m_dominantAmp = 0.0;
+    int m_measureFramesDone = 0;
+    int m_measureFramesTotal = 0;
+    // Live flags; the settings hold their stored twins.
+    bool m_calibrated = false;
+    bool m_locked = false;
+
+    QTimer m_saveTimer;
+    QTranslator m_translator;
+};
+
+#undef MERIDAX_CONTROL_RANGE
+#undef MERIDAX_SETTING
+#undef MERIDAX_OVERLAY_SETTING
+#undef MERIDAX_BLOB_SETTING
+#undef MERIDAX_APP_SETTING
+
+} // namespace meridax

@@ -1,0 +1,212 @@
+// Camera selection, start and stop, hardware controls.
+
+#include "viewmodel/CameraViewModel.h"
+
+#include "viewmodel/ExposureMigration.h"
+
+#include <QDebug>
+
+#include <algorithm>
+
+namespace meridax {
+
+namespace {
+
+/// Range of the exposure on a camera that does not tell its own: the scale of the Qt fallback.
+constexpr ControlRange fallbackExposureRange{.min = -6, .max = 6, .supported = true};
+
+} // namespace
+
+void CameraViewModel::startCamera()
+{
+    m_controller.updateSettings(m_settings);
+    m_controller.startCamera();
+}
+
+void CameraViewModel::stopCamera()
+{
+    m_controller.stopCamera();
+}
+
+void CameraViewModel::refreshCameras()
+{
+    m_cameras = listCameras(QMediaDevices::videoInputs());
+    m_cameraNames.clear();
+    qInfo() << "[CameraEnumeration] devices found:" << m_cameras.size();
+    for (const CameraDeviceInfo &camera : std::as_const(m_cameras)) {
+        qInfo().noquote() << "  -" << camera.name << "id=" << camera.id
+                          << "formats=" << camera.formats.size();
+        m_cameraNames.append(camera.name);
+    }
+
+    const QString previousId = m_settings.camera.cameraId;
+    m_selectedCameraIndex =
+        rememberedCameraIndex(m_cameras, previousId, m_settings.camera.cameraName);
+    snapToNearestFormat();
+    // Without a device the record keeps the camera that was last there.
+    if (hasSelectedCamera())
+        storeSelectedCamera();
+    const QString &newId = m_settings.camera.cameraId;
+    if (!previousId.isEmpty() && !newId.isEmpty() && previousId != newId)
+        resetCameraValues();
+    emit cameraListChanged();
+    emit cameraSettingsChanged();
+}
+
+void CameraViewModel::setSelectedCameraIndex(int index)
+{
+    if (index < 0 || index >= m_cameras.size())
+        return;
+    const QString previousId = m_settings.camera.cameraId;
+    m_selectedCameraIndex = index;
+    storeSelectedCamera();
+    if (!previousId.isEmpty() && previousId != m_settings.camera.cameraId)
+        resetCameraValues();
+    snapToNearestFormat();
+    m_controller.updateSettings(m_settings);
+    emit cameraListChanged();
+    emit cameraSettingsChanged();
+    m_saveTimer.start();
+}
+
+void CameraViewModel::setSelectedResolutionIndex(int index)
+{
+    const QList<CameraFormatInfo> formats = selectedFormats();
+    if (index < 0 || index >= formats.size())
+        return;
+    selectFormat(formats.at(index));
+    settingsChanged(&CameraViewModel::cameraSettingsChanged);
+}
+
+int CameraViewModel::selectedResolutionIndex() const
+{
+    return nearestFormatIndex(selectedFormats(), resolution());
+}
+
+QStringList CameraViewModel::resolutionOptions() const
+{
+    return resolutionTexts(selectedFormats());
+}
+
+bool CameraViewModel::hasSelectedCamera() const
+{
+    return m_selectedCameraIndex >= 0 && m_selectedCameraIndex < m_cameras.size();
+}
+
+QList<CameraFormatInfo> CameraViewModel::selectedFormats() const
+{
+    return m_cameras.value(m_selectedCameraIndex).formats;
+}
+
+ResolutionLimits CameraViewModel::selectedLimits() const
+{
+    return resolutionLimits(selectedFormats());
+}
+
+QSize CameraViewModel::resolution() const
+{
+    return {m_settings.camera.cameraResolutionX, m_settings.camera.cameraResolutionY};
+}
+
+void CameraViewModel::storeSelectedCamera()
+{
+    const CameraDeviceInfo &device = m_cameras.at(m_selectedCameraIndex);
+    CameraSettings &camera = m_settings.camera;
+    camera.cameraName = device.name;
+    camera.cameraId = device.id;
+    camera.cameraIndex = m_selectedCameraIndex;
+    camera.focusRangeMin = device.focusRangeMin;
+    camera.focusRangeMax = device.focusRangeMax;
+}
+
+void CameraViewModel::selectFormat(const CameraFormatInfo &format)
+{
+    const QSize oldSize = resolution();
+    m_settings.camera.cameraResolutionX = format.width;
+    m_settings.camera.cameraResolutionY = format.height;
+    applyResolutionChange(oldSize, resolution());
+}
+
+void CameraViewModel::snapToNearestFormat()
+{
+    const int index = selectedResolutionIndex();
+    if (index >= 0)
+        selectFormat(selectedFormats().at(index));
+}
+
+void CameraViewModel::resetCameraValues()
+{
+    CameraSettings &camera = m_settings.camera;
+    camera.focusValue = 0;
+    camera.captureTimeMs = 0;
+    camera.brightness = 0;
+    camera.saturation = 50;
+    camera.contrast = 50;
+    // The gain deliberately stays.
+    if (m_calibrated)
+        storeCalibrated(false);
+    if (m_locked)
+        storeLocked(false);
+}
+
+void CameraViewModel::storeControl(int &field, int value, const ControlRange &range)
+{
+    if (range.supported)
+        value = std::max(range.min, std::min(value, range.max));
+    storeCamera(field, value);
+}
+
+void CameraViewModel::setExposure(int value)
+{
+    const ControlRange &range = m_capabilities.exposure;
+    storeControl(m_settings.camera.captureTimeMs, value,
+                 range.supported ? range : fallbackExposureRange);
+}
+
+void CameraViewModel::setBrightness(int value)
+{
+    storeControl(m_settings.camera.brightness, value, m_capabilities.brightness);
+}
+
+void CameraViewModel::setContrast(int value)
+{
+    storeControl(m_settings.camera.contrast, value, m_capabilities.contrast);
+}
+
+void CameraViewModel::setSaturation(int value)
+{
+    storeControl(m_settings.camera.saturation, value, m_capabilities.saturation);
+}
+
+void CameraViewModel::setGain(int value)
+{
+    storeControl(m_settings.camera.gain, value, m_capabilities.gain);
+}
+
+void CameraViewModel::onCapabilitiesDetected(const CameraCapabilities &caps)
+{
+    qInfo().nospace() << "[VM] cameraCapabilitiesDetected received:"
+                      << "  brightness.supported=" << caps.brightness.supported << " range=["
+                      << caps.brightness.min << ".." << caps.brightness.max << "]"
+                      << "  contrast.supported=" << caps.contrast.supported
+                      << "  saturation.supported=" << caps.saturation.supported
+                      << "  gain.supported=" << caps.gain.supported
+                      << "  exposure.supported=" << caps.exposure.supported;
+    m_capabilities = caps;
+    migrateExposure();
+    emit cameraCapabilitiesChanged();
+}
+
+void CameraViewModel::migrateExposure()
+{
+    const ControlRange &range = m_capabilities.exposure;
+    const int former = m_settings.camera.captureTimeMs;
+    const int migrated = migratedExposure(former, range);
+    if (migrated == former)
+        return;
+    storeCamera(m_settings.camera.captureTimeMs, migrated);
+    qInfo() << "[Exposure] migrated old UI value" << former << "to hardware value" << migrated
+            << "in range [" << range.min << ".." << range.max << "]";
+}
+
+} // namespace meridax

@@ -1,0 +1,211 @@
+#include "TestFrames.h"
+#include "camera/CameraController.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QtMath>
+
+#include <cmath>
+
+using namespace meridax;
+
+namespace {
+
+const QSize kSize(1280, 720);
+const QPointF kCentre(651.3, 347.8);
+constexpr double kRadius = 210.0;
+
+QPointF markAt(double degrees)
+{
+    const double t = qDegreesToRadians(degrees);
+    return kCentre + kRadius * QPointF(std::cos(t), std::sin(t));
+}
+
+/// A controller with a calibration, fed with drawn frames one by one.
+class Procedure
+{
+public:
+    explicit Procedure(int positions, int framesPerPosition = 2)
+    {
+        m_settings.calibrationMeasureFrames = framesPerPosition;
+        m_settings.camera.centerX = kSize.width() / 2.0;
+        m_settings.camera.centerY = kSize.height() / 2.0;
+        controller.updateSettings(m_settings);
+        controller.startCamera();
+        QObject::connect(&controller, &CameraController::frameReady, &m_context,
+                         [this](const QImage &frame) {
+                             last = frame;
+                             ++m_arrived;
+                         });
+        record("guide", &CameraController::guideIndexChanged);
+        record("progress", &CameraController::measureProgressChanged);
+        record("captured", &CameraController::blobMeasurementCaptured);
+        record("fit", &CameraController::calibrationFitDetails);
+        record("quality", &CameraController::calibrationQualityDetails);
+        record("completed", &CameraController::calibrationCompleted);
+        record("error", &CameraController::errorOccurred);
+        events.clear();
+        controller.startCalibration(positions);
+    }
+
+    /// Feeds one frame and waits until it has come out.
+    bool feed(const QList<QPointF> &marks)
+    {
+        const int before = m_arrived;
+        const QVideoFrame frame(frameWithMarks(kSize, marks));
+        // Only one goes in: the pipeline is empty whenever a frame has come out and been handled.
+        return QTest::qWaitFor([&] {
+                   if (!m_sent) {
+                       controller.onVideoFrame(frame);
+                       m_sent = true;
+                   }
+                   return m_arrived > before;
+               }) &&
+               !(m_sent = false);
+    }
+
+    bool measure(const QList<QPointF> &marks)
+    {
+        controller.measurePosition();
+        bool fed = true;
+        for (int i = 0; i < m_settings.calibrationMeasureFrames; ++i)
+            fed = fed && feed(marks);
+        return fed;
+    }
+
+    CameraController controller;
+    QStringList events;
+    QImage last;
+
+private:
+    template <typename Signal>
+    void record(const char *name, Signal signal)
+    {
+        QObject::connect(&controller, signal, &m_context,
+                         [this, name] { events << QString::fromLatin1(name); });
+    }
+
+    QObject m_context;
+    AppSettings m_settings;
+    int m_arrived = 0;
+    bool m_sent = false;
+};
+
+} // namespace
+
+class TestCalibrationProcedure : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(); }
+
+    void findsTheCentre()
+    {
+        Procedure run(8);
+        QSignalSpy completed(&run.controller, &CameraController::calibrationCompleted);
+        QSignalSpy captured(&run.controller, &CameraController::blobMeasurementCaptured);
+        QSignalSpy guide(&run.controller, &CameraController::guideIndexChanged);
+        QSignalSpy inSector(&run.controller, &CameraController::blobInSectorChanged);
+        for (int i = 0; i < 8; ++i) {
+            QVERIFY(run.feed({markAt(-45 - i * 45)}));
+            QVERIFY(inSector.wait(0) || inSector.last()[0].toBool());
+            run.events.clear();
+            QVERIFY(run.measure({markAt(-45 - i * 45)}));
+        }
+        QTRY_COMPARE(completed.size(), 1);
+        const QPointF error = completed[0][0].toPointF() - kCentre;
+        QVERIFY2(std::hypot(error.x(), error.y()) < 0.03,
+                 qPrintable(QString::number(std::hypot(error.x(), error.y()))));
+        QCOMPARE(captured.size(), 8);
+        QCOMPARE(captured[7][1].toInt(), 7);
+        QCOMPARE(guide.last(), (QVariantList{8, 8}));
+        // The figures come before the centre, since that opens the dialog which shows them.
+        QCOMPARE(run.events, (QStringList{"progress", "progress", "progress", "progress",
+                                          "captured", "guide", "fit", "quality", "completed"}));
+    }
+
+    void oneFrameFewMarksAreMarkedAndOthersDoNotCount()
+    {
+        Procedure run(3, 2);
+        QSignalSpy progress(&run.controller, &CameraController::measureProgressChanged);
+        QSignalSpy blobs(&run.controller, &CameraController::blobsDetected);
+        const QPointF mark = markAt(-45);
+        QVERIFY(run.feed({mark}));
+        QTRY_COMPARE(blobs.last()[0].toInt(), 1);
+        // A green ring of 0.55 times the diameter.
+        const QPoint ring = (mark + QPointF(0.55 * 48, 0)).toPoint();
+        QVERIFY(run.last.pixelColor(ring).green() > 200);
+        QVERIFY(run.last.pixelColor(ring).red() < 100);
+
+        run.controller.measurePosition();
+        QVERIFY(run.feed({mark}));
+        QVERIFY(run.feed({mark, markAt(100)})); // two: neither counts
+        QTRY_COMPARE(blobs.last()[0].toInt(), 2);
+        QVERIFY(run.last.pixelColor(ring).red() > 200);
+        QVERIFY(run.feed({})); // none: does not count
+        QTRY_COMPARE(blobs.last()[0].toInt(), 0);
+        QTRY_COMPARE(progress.last(), (QVariantList{1, 2}));
+        QVERIFY(run.feed({mark}));
+        QTRY_COMPARE(progress.last(), (QVariantList{0, 0}));
+        QCOMPARE(run.events.count(QStringLiteral("captured")), 1);
+    }
+
+    void coincidentPointsEndWithoutACentre()
+    {
+        Procedure run(3, 1);
+        QSignalSpy errors(&run.controller, &CameraController::errorOccurred);
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(run.measure({markAt(-45)}));
+        QTRY_COMPARE(errors.size(), 1);
+        QCOMPARE(errors[0][0].toString(),
+                 QStringLiteral("Kalibrierungszentrum konnte nicht berechnet werden."));
+        QVERIFY(!run.events.contains(QStringLiteral("completed")));
+        // Frames take the live path again, where nothing is searched.
+        QSignalSpy blobs(&run.controller, &CameraController::blobsDetected);
+        QVERIFY(run.feed({markAt(-45), markAt(45)}));
+        QCOMPARE(blobs.size(), 0);
+    }
+
+    void cancelAndAnewStartForgetThePoints()
+    {
+        Procedure run(3, 1);
+        QSignalSpy captured(&run.controller, &CameraController::blobMeasurementCaptured);
+        QVERIFY(run.measure({markAt(-45)}));
+        run.controller.cancelCalibration();
+        run.controller.measurePosition();   // ignored: none is active
+        run.controller.startCalibration(2); // at least three
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(run.measure({markAt(-45 - i * 120)}));
+        QTRY_COMPARE(captured.size(), 4);
+        QCOMPARE(captured[1][1].toInt(), 0);
+        QTRY_VERIFY(run.events.contains(QStringLiteral("completed")));
+    }
+
+    void stoppingInTheMiddleLeavesNoTraceOfAFrame()
+    {
+        Procedure run(3, 5);
+        run.controller.measurePosition();
+        QVERIFY(run.feed({markAt(-45)}));
+        run.controller.onVideoFrame(QVideoFrame(frameWithMarks(kSize, {markAt(-45)})));
+        run.controller.stopCamera();
+        run.controller.startCamera();
+        run.controller.startCalibration(3);
+        QVERIFY(run.measure({markAt(-45)}));
+        QTRY_VERIFY(run.events.contains(QStringLiteral("captured")));
+    }
+
+    void liveFrameStaysTheLastOneFromBefore()
+    {
+        Procedure run(3, 1);
+        QVERIFY(run.controller.latestFrame().isNull());
+        QVERIFY(run.feed({markAt(-45)}));
+        QVERIFY(run.controller.latestFrame().isNull());
+        run.controller.cancelCalibration();
+        QVERIFY(run.feed({}));
+        QVERIFY(!run.controller.latestFrame().isNull());
+    }
+};
+
+QTEST_MAIN(TestCalibrationProcedure)
+#include "tst_calibrationprocedure.moc"

@@ -1,0 +1,153 @@
+#include "TestFrames.h"
+#include "camera/CameraController.h"
+#include "camera/FrameImage.h"
+#include "camera/SoftwareAdjustments.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <opencv2/imgproc.hpp>
+
+using namespace meridax;
+
+// Without a device startCamera() fails, but frames that are handed in are processed and published
+// as those of a camera: the pipeline by itself.
+class TestFramePipeline : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(); }
+
+    void noDeviceIsReported()
+    {
+        CameraController controller;
+        QSignalSpy errors(&controller, &CameraController::errorOccurred);
+        QSignalSpy running(&controller, &CameraController::runningChanged);
+        controller.startCamera();
+        QCOMPARE(errors.size(), 1);
+        QCOMPARE(errors[0][0].toString(), QStringLiteral("Keine passende Kamera gefunden."));
+        QCOMPARE(running.size(), 1);
+        QCOMPARE(running[0][0].toBool(), false);
+        QVERIFY(!controller.isRunning());
+    }
+
+    void publishesWhatTheStepsGive_data()
+    {
+        QTest::addColumn<int>("brightness");
+        QTest::addColumn<int>("contrast");
+        QTest::addColumn<int>("saturation");
+        QTest::newRow("neutral") << 0 << 50 << 50;
+        QTest::newRow("all set") << 12 << 70 << 80;
+        QTest::newRow("black") << 0 << 0 << 50;
+    }
+
+    void publishesWhatTheStepsGive()
+    {
+        QFETCH(int, brightness);
+        QFETCH(int, contrast);
+        QFETCH(int, saturation);
+        AppSettings settings;
+        settings.camera.brightness = brightness;
+        settings.camera.contrast = contrast;
+        settings.camera.saturation = saturation;
+
+        CameraController controller;
+        controller.updateSettings(settings);
+        controller.startCamera();
+        const QImage source = frameWithMarks({641, 480}, {{300.5, 200.25}});
+        const QImage published = publish(controller, source);
+
+        cv::Mat bgr;
+        cv::cvtColor(wrapRgbImage(source), bgr, cv::COLOR_RGB2BGR);
+        applySoftwareAdjustments(bgr, settings.camera);
+        const QImage expected = rgbImageFromBgr(bgr);
+        const QRect belowTheStamp(0, 40, 641, 440);
+        QCOMPARE(published.copy(belowTheStamp), expected.copy(belowTheStamp));
+        QVERIFY(published.copy(0, 0, 200, 40) != expected.copy(0, 0, 200, 40));
+        QCOMPARE(controller.latestFrame(), published);
+        QCOMPARE(source, frameWithMarks({641, 480}, {{300.5, 200.25}}));
+    }
+
+    void aFrameDuringAnotherIsDropped()
+    {
+        CameraController controller;
+        controller.startCamera();
+        AppSettings slow; // saturation costs time, so the second frame surely comes too early
+        slow.camera.saturation = 80;
+        controller.updateSettings(slow);
+        QSignalSpy frames(&controller, &CameraController::frameReady);
+        controller.onVideoFrame(QVideoFrame(frameWithMarks({3264, 2448}, {})));
+        controller.onVideoFrame(QVideoFrame(frameWithMarks({640, 480}, {})));
+        QTRY_COMPARE(frames.size(), 1);
+        const QImage next = publish(controller, frameWithMarks({320, 240}, {}));
+        QCOMPARE(next.size(), QSize(320, 240));
+        QCOMPARE(frames.size(), 2);
+        QCOMPARE(frames[0][0].value<QImage>().size(), QSize(3264, 2448));
+    }
+
+    void aFrameOverlappingAStopIsDiscarded()
+    {
+        CameraController controller;
+        controller.startCamera();
+        AppSettings slow;
+        slow.camera.saturation = 80;
+        controller.updateSettings(slow);
+        QSignalSpy frames(&controller, &CameraController::frameReady);
+        controller.onVideoFrame(QVideoFrame(frameWithMarks({3264, 2448}, {})));
+        controller.stopCamera();
+        controller.startCamera();
+        const QImage next = publish(controller, frameWithMarks({320, 240}, {}));
+        QCOMPARE(next.size(), QSize(320, 240));
+        QCOMPARE(frames.size(), 1);
+    }
+
+    void uselessFramesPassWithoutATrace()
+    {
+        CameraController controller;
+        controller.startCamera();
+        QSignalSpy frames(&controller, &CameraController::frameReady);
+        controller.onVideoFrame(QVideoFrame());
+        // A frame without memory behind it: its image is null.
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral(".*")));
+        controller.onVideoFrame(
+            QVideoFrame(QVideoFrameFormat({0, 0}, QVideoFrameFormat::Format_Jpeg)));
+        QCOMPARE(publish(controller, frameWithMarks({320, 240}, {})).size(), QSize(320, 240));
+        QCOMPARE(frames.size(), 1);
+    }
+
+    void sizeIsReportedOnceAndInformationEachTime()
+    {
+        CameraController controller;
+        controller.startCamera();
+        QSignalSpy sizes(&controller, &CameraController::actualResolutionChanged);
+        QSignalSpy information(&controller, &CameraController::frameInfoChanged);
+        publish(controller, frameWithMarks({320, 240}, {}));
+        publish(controller, frameWithMarks({320, 240}, {}));
+        publish(controller, frameWithMarks({640, 480}, {}));
+        QCOMPARE(sizes.size(), 2);
+        QCOMPARE(sizes[1], (QVariantList{640, 480}));
+        QCOMPARE(information.size(), 3);
+        QCOMPARE(information[2][0].toString(), QStringLiteral("640 x 480"));
+    }
+
+private:
+    /// Hands in one frame and returns what comes out.
+    static QImage publish(CameraController &controller, const QImage &image)
+    {
+        QImage published;
+        QObject context;
+        connect(&controller, &CameraController::frameReady, &context,
+                [&published](const QImage &frame) { published = frame; });
+        // A frame still in flight would make this one drop: offer it again until it is taken.
+        const bool arrived = QTest::qWaitFor([&] {
+            if (published.isNull())
+                controller.onVideoFrame(QVideoFrame(image));
+            return !published.isNull() && published.size() == image.size();
+        });
+        return arrived ? published : QImage();
+    }
+};
+
+QTEST_MAIN(TestFramePipeline)
+#include "tst_framepipeline.moc"

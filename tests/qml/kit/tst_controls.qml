@@ -1,0 +1,112 @@
+import QtQuick
+import QtQuick.Controls.Material
+import QtTest
+import Meridax
+import "qrc:/qt/qml/Meridax/src/qml" as Parts
+
+TestCase {
+    id: testCase
+
+    name: "Controls"
+    when: windowShown
+    width: 400
+    height: 300
+    visible: true
+
+    Component {
+        id: infoComponent
+
+        InfoTooltip { }
+    }
+
+    Component {
+        id: spinComponent
+
+        SettingsSpinBox {
+            property list<int> changes
+
+            width: 300
+            label: "Anzahl"
+            from: 3
+            to: 15
+            onValueModified: newValue => changes.push(newValue)
+        }
+    }
+
+    Component {
+        id: comboComponent
+
+        Parts.SelectionComboBox {
+            selectedIndex: 1
+            model: ["a", "b", "c"]
+        }
+    }
+
+    function initTestCase() {
+        verify(!ViewModel.running);
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        mouseMove(testCase, 399, 299);
+    }
+
+    function test_helpWithoutTextTakesNoRoom() {
+        const info = createTemporaryObject(infoComponent, testCase);
+        verify(!info.visible);
+        compare(info.implicitWidth, 0);
+        info.text = "Hilfe";
+        verify(info.visible);
+        compare(info.implicitWidth, 14);
+    }
+
+    function test_helpShowsAlsoWithToolTipsOff_data() {
+        return [{ tag: "pointer", pointer: true }, { tag: "keyboard", pointer: false }];
+    }
+
+    function test_helpShowsAlsoWithToolTipsOff(data) {
+        ViewModel.showTooltips = false;
+        const info = createTemporaryObject(infoComponent, testCase,
+                                           { text: "Hilfe", x: 50, y: 50, hoverDelay: 10 });
+        const tip = findChild(info, "helpTip");
+        verify(!tip.visible);
+        if (data.pointer)
+            mouseMove(info, 7, 7);
+        else
+            info.forceActiveFocus(Qt.TabFocusReason);
+        tryCompare(tip, "opened", true);
+        compare(tip.text, "Hilfe");
+        ViewModel.showTooltips = true;
+    }
+
+    function test_spinBoxReportsOnlyTheUser() {
+        const spin = createTemporaryObject(spinComponent, testCase, { value: 8 });
+        const inner = findChild(spin, "spinBox");
+        spin.value = 9;
+        compare(inner.value, 9);
+        compare(spin.changes.length, 0);
+
+        inner.forceActiveFocus();
+        keyClick(Qt.Key_Up);
+        compare(spin.changes, [10]);
+        compare(spin.value, 9);
+        // What is being typed is not overwritten.
+        spin.value = 12;
+        compare(inner.value, 10);
+        testCase.forceActiveFocus();
+        compare(inner.value, 12);
+    }
+
+    function test_selectionSurvivesANewModel() {
+        const combo = createTemporaryObject(comboComponent, testCase);
+        compare(combo.displayText, "b");
+        combo.model = ["x", "y", "z"];
+        compare(combo.displayText, "y");
+        // The owner does not take the user's choice.
+        combo.forceActiveFocus();
+        keyClick(Qt.Key_Down);
+        tryCompare(combo, "displayText", "y");
+        combo.selectedIndex = 2;
+        compare(combo.displayText, "z");
+    }
+}

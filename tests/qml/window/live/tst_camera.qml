@@ -1,0 +1,97 @@
+import QtQuick
+import QtTest
+import Meridax
+
+// The window while a camera runs.
+TestCase {
+    id: testCase
+
+    name: "RunningCamera"
+    when: windowShown
+
+    property var window: null
+
+    Component {
+        id: mainComponent
+
+        Main {}
+    }
+
+    function initTestCase() {
+        // Creates the view model. A machine without sound server makes the media library warn.
+        compare(ViewModel.running, false);
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+        ViewModel.saveWindowGeometry(0, 0, 1200, 800, false);
+        window = createTemporaryObject(mainComponent, testCase);
+        tryCompare(window, "active", true);
+        mouseClick(item("startStopButton"));
+        tryCompare(window, "hasFirstFrame", true, 20000);
+    }
+
+    function cleanup() {
+        ViewModel.stopCamera();
+        tryCompare(ViewModel, "running", false);
+        window = null;
+    }
+
+    function item(name: string): var {
+        const found = findChild(window, name);
+        verify(found, `no item ${name}`);
+        return found;
+    }
+
+    function test_startAndStop() {
+        compare(item("startStopButton").text, "Stop");
+        compare(item("connectionLabel").text, "Kamera verbunden");
+        compare(item("calibrationLabel").text, "Nicht kalibriert");
+        verify(item("cameraLabel").text.startsWith(ViewModel.selectedCameraName + "  ("));
+        verify(item("overlayCanvas").visible);
+        verify(item("zoomControl").visible);
+        verify(!item("watermark").visible);
+        tryCompare(item("videoItem"), "viewSourceRect",
+                   Qt.rect(0, 0, ViewModel.resolutionX, ViewModel.resolutionY));
+
+        mouseClick(item("startStopButton"));
+        tryCompare(ViewModel, "running", false);
+        tryCompare(window, "hasFirstFrame", false);
+        tryCompare(item("videoItem"), "viewSourceRect", Qt.rect(0, 0, -1, -1));
+        verify(!item("overlayCanvas").visible);
+        verify(!item("zoomControl").visible);
+        verify(item("watermark").visible);
+    }
+
+    function test_zoomControlCanBeSwitchedOff() {
+        ViewModel.showZoomOverlay = false;
+        verify(!item("zoomControl").visible);
+        ViewModel.showZoomOverlay = true;
+        verify(item("zoomControl").visible);
+    }
+
+    // While a calibration runs the picture is shown whole; the zoom comes back afterwards.
+    function test_calibrationShowsTheWholePicture() {
+        ViewModel.zoom = 3;
+        compare(item("videoItem").zoom, 3);
+        const sector = item("sectorClip");
+        verify(!sector.visible);
+
+        ViewModel.startCalibration();
+        tryCompare(sector, "visible", true);
+        compare(item("videoItem").zoom, 1);
+        compare(ViewModel.zoom, 3);
+        verify(!item("zoomControl").visible);
+        verify(item("blobPill").visible);
+        // The sector lies where the mapping of the picture puts the centre.
+        const overlay = item("overlayCanvas");
+        fuzzyCompare(sector.x + sector.sectorCx, overlay.ovlScx, 1e-6);
+        fuzzyCompare(sector.y + sector.sectorCy, overlay.ovlScy, 1e-6);
+        fuzzyCompare(sector.pxScale, overlay.ovlPxScale, 1e-9);
+
+        ViewModel.cancelCalibration();
+        tryCompare(sector, "visible", false);
+        compare(item("videoItem").zoom, 3);
+        ViewModel.zoom = 1;
+    }
+}

@@ -1,0 +1,278 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+import Meridax
+
+TestCase {
+    id: testCase
+
+    name: "Main"
+    when: windowShown
+
+    property var window: null
+    /// By how much the window system may move a window for the sake of its frame.
+    readonly property int frameMargin: 4
+
+    Component {
+        id: mainComponent
+
+        Main {}
+    }
+
+    SignalSpy {
+        id: commits
+
+        signalName: "triggered"
+    }
+
+    function initTestCase() {
+        // Creates the view model. A machine without sound server makes the media library warn.
+        compare(ViewModel.running, false);
+    }
+
+    function init() {
+        failOnWarning(/.?/);
+    }
+
+    function cleanup() {
+        window = null;
+    }
+
+    function open() {
+        window = createTemporaryObject(mainComponent, testCase);
+        verify(window);
+        tryCompare(window, "active", true);
+    }
+
+    function item(name: string): var {
+        const found = findChild(window, name);
+        verify(found, `no item ${name}`);
+        return found;
+    }
+
+    function finishCalibration(points: int, sigma: real) {
+        ViewModel.controller.calibrationFitDetails(points, 212.345, 0.1234);
+        ViewModel.controller.calibrationQualityDetails(sigma, 45, 2, 0.2);
+        ViewModel.controller.calibrationCompleted(Qt.point(1650.254, 1190.756));
+    }
+
+    // Runs before any geometry has been saved.
+    function test_0_firstStart() {
+        compare(ViewModel.savedWindowWidth, 0);
+        open();
+        compare(window.title, "Meridax");
+        compare(window.visibility, Window.Windowed);
+        compare(window.width, 1600);
+        compare(window.height, 950);
+        compare(window.minimumWidth, 800);
+        compare(window.minimumHeight, 600);
+        compare(window._normalX, Math.round((Screen.width - 1600) / 2));
+        compare(window._normalY, Math.round((Screen.height - 950) / 2));
+        fuzzyCompare(window.x, window._normalX, frameMargin);
+    }
+
+    function test_savedPosition_data() {
+        return [
+            { tag: "as saved", x: 50, y: 40, expectedX: 50, expectedY: 40 },
+            {
+                tag: "right and below of all screens", x: 9000, y: 9000,
+                expectedX: Screen.width - 120, expectedY: Screen.height - 80
+            },
+            { tag: "left and above", x: -9000, y: -9000, expectedX: -900 + 120, expectedY: 0 }
+        ];
+    }
+    function test_savedPosition(data) {
+        ViewModel.saveWindowGeometry(data.x, data.y, 900, 700, false);
+        open();
+        compare(window.width, 900);
+        compare(window.height, 700);
+        compare(window._normalX, data.expectedX);
+        compare(window._normalY, data.expectedY);
+        fuzzyCompare(window.x, data.expectedX, frameMargin);
+        fuzzyCompare(window.y, data.expectedY, frameMargin);
+    }
+
+    function test_savedMaximized() {
+        ViewModel.saveWindowGeometry(60, 70, 1200, 800, true);
+        open();
+        compare(window.visibility, Window.Maximized);
+        window.close();
+        compare(ViewModel.savedWindowMaximized, true);
+        compare(ViewModel.savedWindowWidth, 1200);
+        compare(ViewModel.savedWindowHeight, 800);
+        compare(ViewModel.savedWindowX, 60);
+        compare(ViewModel.savedWindowY, 70);
+    }
+
+    function test_maximizingKeepsTheNormalSize() {
+        ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
+        open();
+        commits.target = item("normalGeometryCommit");
+        window.width = 870;
+        commits.clear();
+        commits.wait();
+        compare(window._normalW, 870);
+        window.showMaximized();
+        commits.wait();
+        compare(window._normalW, 870);
+        window.close();
+        compare(ViewModel.savedWindowMaximized, true);
+        compare(ViewModel.savedWindowWidth, 870);
+        compare(ViewModel.savedWindowHeight, 650);
+    }
+
+    function test_resizingJustBeforeClosing() {
+        ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
+        open();
+        window.width = 910;
+        window.close();
+        compare(ViewModel.savedWindowWidth, 910);
+        compare(ViewModel.savedWindowMaximized, false);
+    }
+
+    function test_tooSmallIsNeverSaved() {
+        ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
+        open();
+        window.height = 390;
+        window.close();
+        compare(ViewModel.savedWindowWidth, 850);
+        compare(ViewModel.savedWindowHeight, 650);
+    }
+
+    function test_theme() {
+        open();
+        for (const dark of [true, false]) {
+            ViewModel.darkMode = dark;
+            compare(Theme.dark, dark);
+            compare(window.color, dark ? "#333333" : "#e8e8e8");
+        }
+    }
+
+    function test_connectionLabel() {
+        open();
+        const label = item("connectionLabel");
+        compare(label.text, "Kamera nicht verbunden");
+        ViewModel.controller.errorOccurred("Etwas ist schiefgegangen");
+        compare(label.text, "Etwas ist schiefgegangen");
+        ViewModel.controller.statusChanged("");
+        compare(label.text, "Kamera nicht verbunden");
+        compare(item("startStopButton").text, "Start");
+    }
+
+    function test_blobPill() {
+        open();
+        const pill = item("blobPill");
+        verify(!pill.visible);
+        ViewModel.startCalibration();
+        verify(pill.visible);
+        for (const [count, text, color] of [[1, "1 Blob ✓", "#388e3c"], [0, "0 Blobs", "#b71c1c"],
+                                            [2, "2 Blobs", "#b71c1c"]]) {
+            ViewModel.controller.blobsDetected(count);
+            compare(item("blobLabel").text, text);
+            compare(pill.color, color);
+        }
+        ViewModel.cancelCalibration();
+        verify(!pill.visible);
+    }
+
+    function test_frameWithoutCameraIsDropped() {
+        open();
+        ViewModel.controller.frameReady(testFrames.ring(80, 60, 40, 30, 10, 2));
+        wait(0);
+        compare(window.hasFirstFrame, false);
+        compare(item("videoItem").viewSourceRect, Qt.rect(0, 0, -1, -1));
+    }
+
+    function test_wheelZooms() {
+        open();
+        ViewModel.zoom = 1;
+        const area = item("captureArea");
+        const x = area.width - 60;
+        mouseWheel(area, x, 300, 0, 120);
+        fuzzyCompare(ViewModel.zoom, 1.05, 1e-9);
+        mouseWheel(area, x, 300, 0, 720); // the size of the step does not count
+        fuzzyCompare(ViewModel.zoom, 1.1, 1e-9);
+        for (let i = 0; i < 4; ++i)
+            mouseWheel(area, x, 300, 0, -120);
+        compare(ViewModel.zoom, 1);
+        ViewModel.zoom = 4.98;
+        mouseWheel(area, x, 300, 0, 120);
+        compare(ViewModel.zoom, 5);
+    }
+
+    function test_verdict_data() {
+        return [
+            { tag: "excellent", points: 12, sigma: 0.05, text: "Zentrum exzellent bestimmt" },
+            { tag: "bad", points: 12, sigma: 30, text: "Zentrum ungenau — bitte neu messen" },
+            { tag: "three points", points: 3, sigma: 0, text: "Güte nicht bewertbar" }
+        ];
+    }
+    function test_verdict(data) {
+        open();
+        finishCalibration(data.points, data.sigma);
+        const dialog = item("centerDialog");
+        tryCompare(dialog, "opened", true);
+        compare(findChild(dialog.contentItem, "verdictLabel").text, data.text);
+        compare(findChild(dialog.contentItem, "fewPointsNote").visible, data.points <= 4);
+        ViewModel.discardPendingCenter();
+        tryCompare(dialog, "visible", false);
+    }
+
+    // Every other way to close discards, and the dialog comes again the next time.
+    function test_closingWithoutYesDiscards() {
+        open();
+        const dialog = item("centerDialog");
+        const before = ViewModel.centerX;
+        const overlay = dialog.parent;
+        const ways = [
+            () => mouseClick(dialog.standardButton(Dialog.No)),
+            () => keyClick(Qt.Key_Escape),
+            () => mouseClick(overlay, 5, overlay.height - 5)
+        ];
+        for (const close of ways) {
+            finishCalibration(8, 0.1);
+            tryCompare(dialog, "opened", true);
+            close();
+            tryCompare(dialog, "visible", false);
+            compare(ViewModel.hasPendingCenter, false);
+            compare(ViewModel.centerX, before);
+        }
+    }
+
+    function test_yesAcceptsAndShowsTheCameraTab() {
+        open();
+        const dialog = item("centerDialog");
+        const panel = item("leftPanel");
+        panel.currentTab = 1;
+        panel.expanded = false;
+        finishCalibration(8, 0.1);
+        tryCompare(dialog, "opened", true);
+        mouseClick(dialog.standardButton(Dialog.Yes));
+        tryCompare(dialog, "visible", false);
+        compare(ViewModel.hasPendingCenter, false);
+        fuzzyCompare(ViewModel.centerX, 1650.254, 1e-9);
+        verify(ViewModel.calibrated);
+        compare(panel.currentTab, 0);
+        compare(panel.expanded, true);
+    }
+
+    function test_dialogFitsTheSmallestWindow() {
+        ViewModel.saveWindowGeometry(0, 0, 800, 600, false);
+        open();
+        for (let i = 0; i < 3; ++i)
+            ViewModel.controller.blobMeasurementCaptured(Qt.point(100 * i, 50 * i * i), i);
+        finishCalibration(3, 0);
+        const dialog = item("centerDialog");
+        tryCompare(dialog, "opened", true);
+        verify(dialog.y >= 0 && dialog.y + dialog.height <= 600);
+        const content = dialog.contentItem;
+        verify(content.contentHeight > content.height, "has to be scrolled");
+        const yes = dialog.standardButton(Dialog.Yes);
+        const bottom = yes.mapToItem(null, 0, yes.height).y;
+        verify(bottom <= dialog.y + dialog.height);
+        content.forceActiveFocus();
+        keyClick(Qt.Key_Down);
+        tryVerify(() => content.contentY > 0);
+        ViewModel.discardPendingCenter();
+    }
+}

@@ -1,0 +1,143 @@
+#include "ViewModelFixture.h"
+
+#include "viewmodel/LanguageSwitch.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+using namespace meridax;
+
+/// Settings of the application itself that are more than a stored value.
+class TestCameraViewModelSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { fixture::setApplicationNames(); }
+    void init();
+    void cleanup() { m_viewModel.reset(); }
+    void geometryIsWrittenAtOnce();
+    void smallGeometryOnlyTellsMaximized();
+    void sections();
+    void forgottenSections();
+    void languageReplacesTheStartupTranslator();
+    void languageReachesTheFile();
+    void clipboard();
+
+private:
+    fixture::ViewModel m_viewModel;
+};
+
+namespace {
+
+/// Translates every text to "?".
+class QuestionMarks : public QTranslator
+{
+public:
+    QString translate(const char *, const char *, const char *, int) const override
+    {
+        return QStringLiteral("?");
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+void TestCameraViewModelSettings::init()
+{
+    QTest::failOnWarning();
+    m_viewModel = fixture::firstStart();
+}
+
+void TestCameraViewModelSettings::geometryIsWrittenAtOnce()
+{
+    QSignalSpy notified(m_viewModel.get(), &CameraViewModel::appSettingsChanged);
+    m_viewModel->saveWindowGeometry(-20, 30, 1400, 400, true);
+    QCOMPARE(notified.size(), 0);
+    const AppSettings stored = loadSettings();
+    QCOMPARE(stored.windowX, -20);
+    QCOMPARE(stored.windowY, 30);
+    QCOMPARE(stored.windowWidth, 1400);
+    QCOMPARE(stored.windowHeight, 400);
+    QVERIFY(stored.windowMaximized);
+    QCOMPARE(m_viewModel->savedWindowX(), -20);
+    QCOMPARE(m_viewModel->savedWindowHeight(), 400);
+
+    QVERIFY(QFile::remove(settingsFilePath()));
+    m_viewModel->saveWindowGeometry(-20, 30, 1400, 400, true);
+    QVERIFY2(!fixture::fileExists(), "nothing changed");
+    m_viewModel->saveWindowGeometry(-20, 31, 1400, 400, true);
+    QVERIFY(fixture::fileExists());
+}
+
+void TestCameraViewModelSettings::smallGeometryOnlyTellsMaximized()
+{
+    m_viewModel->saveWindowGeometry(1, 2, 399, 900, false);
+    QVERIFY(!fixture::fileExists());
+    m_viewModel->saveWindowGeometry(1, 2, 900, 399, true);
+    QVERIFY(loadSettings().windowMaximized);
+    QCOMPARE(loadSettings().windowWidth, 0);
+    QCOMPARE(loadSettings().windowX, 0);
+}
+
+void TestCameraViewModelSettings::sections()
+{
+    QVERIFY(m_viewModel->sectionCollapsed("blob", true));
+    QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
+    // The first choice counts even where it is the default.
+    m_viewModel->setSectionCollapsed("blob", true);
+    QVERIFY(m_viewModel->sectionCollapsed("blob", false));
+    m_viewModel->setSectionCollapsed("", false);
+    QVERIFY(!m_viewModel->sectionCollapsed("", true));
+    QTRY_VERIFY(fixture::fileExists());
+    QCOMPARE(loadSettings().collapsedSections, (QVariantMap{{"blob", true}, {"", false}}));
+}
+
+void TestCameraViewModelSettings::forgottenSections()
+{
+    m_viewModel->setSectionCollapsed("blob", true);
+    m_viewModel->setRememberCollapsedSections(false);
+    QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
+    QTRY_VERIFY(fixture::fileExists());
+    QVERIFY(loadSettings().collapsedSections.isEmpty());
+
+    // Still kept while the program runs, but no reason to write the file.
+    m_viewModel->setSectionCollapsed("blob", true);
+    QVERIFY(m_viewModel->sectionCollapsed("blob", false));
+}
+
+void TestCameraViewModelSettings::languageReplacesTheStartupTranslator()
+{
+    QuestionMarks startup;
+    QVERIFY(QCoreApplication::installTranslator(&startup));
+    setStartupTranslator(&startup);
+    QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "?");
+
+    m_viewModel->setLanguage("de");
+    QVERIFY2(startupTranslator(), "the language was German already");
+    QSignalSpy notified(m_viewModel.get(), &CameraViewModel::appSettingsChanged);
+    m_viewModel->setLanguage("../no such catalogue");
+    QCOMPARE(notified.size(), 1);
+    QVERIFY(!startupTranslator());
+    QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
+    m_viewModel->setLanguage("de");
+    QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
+}
+
+void TestCameraViewModelSettings::languageReachesTheFile()
+{
+    m_viewModel->setLanguage("fr");
+    QTRY_COMPARE(loadSettings().language, "fr");
+}
+
+void TestCameraViewModelSettings::clipboard()
+{
+    m_viewModel->copyToClipboard("Größe");
+    QCOMPARE(QGuiApplication::clipboard()->text(), "Größe");
+}
+
+QTEST_MAIN(TestCameraViewModelSettings)
+#include "tst_cameraviewmodel_settings.moc"
