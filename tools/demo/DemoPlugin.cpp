@@ -1,0 +1,27 @@
+#include "DemoScript.h"
+
+#include <QCoreApplication>
+#include <QGenericPlugin>
+#include <QTimer>
+
+/// Starts the script in the program that loaded the plugin, once its event loop runs.
+class DemoPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "DemoPlugin.json")
+
+public:
+    QObject *create(const QString &, const QString &) override
+    {
+        auto *const start = new QTimer(this);
+        start->setSingleShot(true);
+        connect(start, &QTimer::timeout, this, [] {
+            const bool passed = runDemoScript(demoOptionsFromEnvironment());
+            QCoreApplication::exit(passed ? 0 : 1);
+        });
+        start->start();
+        return start;
+    }
+};
+
+#include "DemoPlugin.moc"

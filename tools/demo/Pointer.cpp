@@ -1,0 +1,77 @@
+#include "Pointer.h"
+
+#include <QCoreApplication>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include <xcb/xcb.h>
+#include <xcb/xtest.h>
+
+#include <stdexcept>
+#include <utility>
+
+namespace {
+
+constexpr unsigned char kLeftButton = 1;
+/// Time for the window to see a move before the press, as with a hand; hover states follow it.
+constexpr int kMoveToPressMs = 60;
+
+QPoint screenPosition(const QQuickItem &item)
+{
+    const QPointF middle = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
+    const QQuickWindow &window = *item.window();
+    const QPointF global = window.mapToGlobal(middle);
+    return (global * window.devicePixelRatio()).toPoint();
+}
+
+/// Waits until layouts and animations have put `item` where it stays.
+void waitUntilAtRest(const QQuickItem &item)
+{
+    constexpr int lookMs = 100;
+    constexpr int mostLooks = 50;
+    QPoint before = screenPosition(item);
+    for (int i = 0; i < mostLooks; ++i) {
+        QTest::qWait(lookMs);
+        const QPoint now = screenPosition(item);
+        if (std::exchange(before, now) == now)
+            return;
+    }
+}
+
+} // namespace
+
+Pointer::Pointer()
+{
+    int screen = 0;
+    m_connection = xcb_connect(nullptr, &screen);
+    if (xcb_connection_has_error(m_connection))
+        throw std::runtime_error("no X display for the mouse");
+    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+}
+
+Pointer::~Pointer()
+{
+    xcb_disconnect(m_connection);
+}
+
+void Pointer::moveTo(const QQuickItem &item)
+{
+    waitUntilAtRest(item);
+    send(XCB_MOTION_NOTIFY, 0, screenPosition(item));
+    QTest::qWait(kMoveToPressMs);
+}
+
+void Pointer::click(const QQuickItem &item)
+{
+    moveTo(item);
+    send(XCB_BUTTON_PRESS, kLeftButton);
+    send(XCB_BUTTON_RELEASE, kLeftButton);
+}
+
+void Pointer::send(unsigned char type, unsigned char detail, QPoint position)
+{
+    xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, m_root,
+                        static_cast<int16_t>(position.x()), static_cast<int16_t>(position.y()), 0);
+    xcb_flush(m_connection);
+}
