@@ -11,6 +11,7 @@ function(meridax_add_test name)
         "SOURCES;LIBRARIES;LABELS;ENVIRONMENT")
     find_package(Qt6 6.8 REQUIRED COMPONENTS Test QUIET)
     qt_add_executable(${name} ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE meridax_options Qt6::Test ${arg_LIBRARIES})
     # Plugins of imported QML modules are found at run time; the scan only serves static builds.
     set_target_properties(${name} PROPERTIES QT_QML_MODULE_NO_IMPORT_SCAN TRUE)

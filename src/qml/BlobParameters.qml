@@ -60,6 +60,7 @@ ColumnLayout {
     }
 
     FilterSwitch {
+        objectName: "filterCircularity"
         label: qsTr("Filter Circularity")
         tooltipText: qsTr("Filtert nach Rundheit. Verhindert dass kantige oder unförmige Flecken erkannt werden.")
         checked: ViewModel.blobFilterCircularity

@@ -144,6 +144,7 @@ Pane {
             visible: root._hasMeasurements
 
             MeasurementTable {
+                objectName: "pointsTable"
                 Layout.fillWidth: true
                 measurements: ViewModel.measurements
             }

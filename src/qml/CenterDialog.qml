@@ -26,6 +26,8 @@ Dialog {
     focus: true
     visible: ViewModel.hasPendingCenter
     title: qsTr("Kalibrierung abgeschlossen")
+    Material.background: Theme.settingsPanelBg
+    Overlay.modal: ModalDim {}
     standardButtons: Dialog.Yes | Dialog.No
 
     contentItem: Flickable {
@@ -43,9 +45,17 @@ Dialog {
         Keys.onUpPressed: scrollBar.decrease()
         Keys.onDownPressed: scrollBar.increase()
 
+        // Beside the content: the width of the content must not depend on whether it scrolls.
         ScrollBar.vertical: ScrollBar {
             id: scrollBar
 
+            parent: flickable.parent
+            anchors {
+                top: flickable.top
+                bottom: flickable.bottom
+                left: flickable.right
+                leftMargin: 6
+            }
             policy: flickable.contentHeight > flickable.height ? ScrollBar.AlwaysOn
                                                                : ScrollBar.AlwaysOff
         }
@@ -53,7 +63,7 @@ Dialog {
         ColumnLayout {
             id: column
 
-            width: flickable.width - (scrollBar.visible ? scrollBar.width : 0)
+            width: flickable.width
             spacing: 10
 
             Label {

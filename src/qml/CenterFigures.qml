@@ -25,7 +25,7 @@ GridLayout {
 
     component FigureName: Label {
         font.pixelSize: 12
-        color: Theme.textMuted
+        color: Theme.text
     }
 
     columns: 2

@@ -35,6 +35,7 @@ Rectangle {
 
         FigureCaption { text: qsTr("Center") }
         FigureValue {
+            objectName: "centerValue"
             text: "%1  /  %2".arg(root.center.x.toFixed(2)).arg(root.center.y.toFixed(2))
             color: Material.accentColor
         }

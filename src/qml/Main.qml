@@ -155,6 +155,7 @@ ApplicationWindow {
     TopBar {
         id: topBar
 
+        objectName: "topBar"
         anchors {
             top: parent.top
             left: parent.left

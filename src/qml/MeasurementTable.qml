@@ -33,6 +33,7 @@ Rectangle {
         delegate: MeasurementRow {
             required property var modelData
 
+            objectName: "pointRow" + stepText
             stepText: modelData.step
             xText: modelData.x.toFixed(1)
             yText: modelData.y.toFixed(1)

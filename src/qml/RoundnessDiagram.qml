@@ -85,6 +85,7 @@ ColumnLayout {
         }
 
         LegendEntry {
+            objectName: "sigmaLegend"
             symbol: LegendEntry.Dot
             symbolColor: canvas.sigmaColor
             text: ViewModel.qualityAssessable

@@ -32,14 +32,14 @@ RowLayout {
 
     spacing: 8
 
-    RowLayout {
+    Row {
         Layout.preferredWidth: 100
         Layout.maximumWidth: 100
         spacing: 5
 
         Label {
-            Layout.fillWidth: true
-            Layout.maximumWidth: Math.ceil(implicitWidth)
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, 100 - (help.visible ? help.width + parent.spacing : 0))
             text: root.label
             font.pixelSize: 12
             // Wide fallback fonts would else elide the longest labels.
@@ -50,11 +50,9 @@ RowLayout {
         }
 
         InfoTooltip {
+            id: help
+            anchors.verticalCenter: parent.verticalCenter
             text: root.tooltipText
-        }
-
-        Item {
-            Layout.fillWidth: true
         }
     }
 

@@ -115,6 +115,7 @@ Rectangle {
             color: ViewModel.running ? Theme.text : Theme.textMuted
             elide: Text.ElideRight
             Layout.fillWidth: true
+            Layout.minimumWidth: Math.min(130, Math.ceil(implicitWidth))
             Layout.maximumWidth: Math.min(260, Math.ceil(implicitWidth))
         }
 
@@ -142,7 +143,8 @@ Rectangle {
             objectName: "startStopButton"
             text: ViewModel.running ? qsTr("Stop") : qsTr("Start")
             highlighted: true
-            Material.accent: ViewModel.running ? Material.Red : Material.Green
+            // The plain colours: the dark theme's own shades are too pale under white text.
+            Material.accent: Material.color(ViewModel.running ? Material.Red : Material.Green)
             Accessible.name: text
             onClicked: ViewModel.running ? ViewModel.stopCamera() : ViewModel.startCamera()
         }

@@ -42,6 +42,7 @@ set(meridax_qml_internal
     src/qml/MeasureButton.qml
     src/qml/MeasurementRow.qml
     src/qml/MeasurementTable.qml
+    src/qml/ModalDim.qml
     src/qml/OverlayCanvas.qml
     src/qml/PanelFlickable.qml
     src/qml/PanelHandle.qml

@@ -1,4 +1,5 @@
 #include "TestFrames.h"
+#include "TestWarnings.h"
 #include "camera/CameraController.h"
 
 #include <QSignalSpy>
@@ -98,7 +99,7 @@ class TestCalibrationProcedure : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(); }
+    void init() { QTest::failOnWarning(unexpectedWarning()); }
 
     void findsTheCentre()
     {

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QMediaDevices>
 
 #include <memory>
 
@@ -32,10 +33,13 @@ inline bool fileExists()
     return QFile::exists(meridax::settingsFilePath());
 }
 
-inline void setApplicationNames()
+/// To be called once, before the tests count warnings.
+inline void prepareProcess()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Tarnwick Optics"));
     QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
+    // Qt Multimedia warns at its first use on a machine without a sound server.
+    const QMediaDevices devices;
 }
 
 } // namespace fixture

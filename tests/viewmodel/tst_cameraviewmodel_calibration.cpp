@@ -11,9 +11,8 @@ class TestCameraViewModelCalibration : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { fixture::setApplicationNames(); }
+    void initTestCase() { fixture::prepareProcess(); }
     void init();
-    void cleanup() { m_viewModel.reset(); }
     void startClearsTheLastResult();
     void measurementsAndProgress();
     void guideState();
@@ -34,6 +33,7 @@ private:
 void TestCameraViewModelCalibration::init()
 {
     QTest::failOnWarning();
+    m_viewModel.reset();
     m_viewModel = fixture::firstStart();
 }
 

@@ -3,6 +3,7 @@
 #include <QMediaDevices>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -14,11 +15,12 @@ class TestCameraViewModelStream : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { fixture::setApplicationNames(); }
+    void initTestCase() { fixture::prepareProcess(); }
     void init();
     void listsTheCamera();
     void resolutionChangeDropsTheCalibration();
     void anotherCameraResetsTheValues();
+    void choiceBetweenTwoCameras();
     void streams();
     void unplugging();
 
@@ -118,6 +120,41 @@ void TestCameraViewModelStream::anotherCameraResetsTheValues()
     viewModel->refreshCameras();
     viewModel->setSelectedCameraIndex(0);
     QCOMPARE(viewModel->brightness(), 30);
+}
+
+void TestCameraViewModelStream::choiceBetweenTwoCameras()
+{
+    const auto viewModel = fixture::firstStart();
+    const QString first = viewModel->selectedCameraName();
+    simcam({"plug", "--new", "--node", "video40", "--name", "Zweite"});
+    auto unplugSecond = qScopeGuard([] { simcam({"unplug", "--node", "video40"}); });
+    QTRY_COMPARE(viewModel->cameraNames().size(), 2);
+    QCOMPARE(viewModel->selectedCameraName(), first);
+
+    viewModel->setBrightness(30);
+    viewModel->setGain(5);
+    emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
+    viewModel->acceptPendingCenter();
+    const int second = int(viewModel->cameraNames().indexOf("Zweite"));
+    viewModel->setSelectedCameraIndex(2);
+    QCOMPARE(viewModel->brightness(), 30);
+    QSignalSpy list(viewModel.get(), &CameraViewModel::cameraListChanged);
+    viewModel->setSelectedCameraIndex(second);
+    QCOMPARE(list.size(), 1);
+    QCOMPARE(viewModel->selectedCameraName(), "Zweite");
+    QCOMPARE(viewModel->brightness(), 0);
+    QCOMPARE(viewModel->gain(), 5);
+    QVERIFY(!viewModel->calibrated());
+    QVERIFY(!viewModel->locked());
+    QTRY_COMPARE(loadSettings().camera.cameraName, "Zweite");
+
+    // The choice outlives a restart, and the first camera takes over when the second is gone.
+    QCOMPARE(fixture::startWith(loadSettings())->selectedCameraName(), "Zweite");
+    viewModel->setBrightness(7);
+    unplugSecond.dismiss();
+    simcam({"unplug", "--node", "video40"});
+    QTRY_COMPARE(viewModel->selectedCameraName(), first);
+    QCOMPARE(viewModel->brightness(), 0);
 }
 
 void TestCameraViewModelStream::streams()

@@ -74,15 +74,14 @@ struct Zones
     double grey(double u) const
     {
         double g = kPlain + (kCenter - kPlain) * (1 - smoothStep(6, 18, u));
-        g += 30 * grooves(8, u) * window(inner / 2 + 4, inner - 4, 3, u) * (inner > 40);
-        g += (kRim - g + 11 * grooves(6, u) * (u < outer + 48)) *
-             smoothStep(outer + 35, outer + 38, u);
+        g += 30 * grooves(8, u) * window(0.72 * inner, inner - 4, 3, u) * (inner > 40);
+        g += (kRim - g) * smoothStep(outer + 35, outer + 38, u);
         return std::lerp(g, kOutside, smoothStep(edge - 1, edge + 1, u));
     }
     double textureDepth(double u) const
     {
-        const double inside = window(24, inner / 2 - 2, 2, u) * (inner > 60);
-        const double rim = window(outer + 50, edge - 4, 1, u);
+        const double inside = window(24, 0.45 * inner, 2, u) * (inner > 60);
+        const double rim = window(edge - 14, edge - 4, 1, u);
         return kTextureDepth * std::max(inside, rim);
     }
     double tint(double u) const

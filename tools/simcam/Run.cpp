@@ -97,7 +97,7 @@ int runProgram(const std::string &dir, const Arguments &preloads, const Argument
     return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
-/// Unplugs at the end whatever is still plugged in, so that nothing keeps a camera that is gone.
+/// The directory of one run; removed at the end if it was made for it.
 struct Session
 {
     std::string dir;

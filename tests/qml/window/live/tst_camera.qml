@@ -29,6 +29,7 @@ TestCase {
         tryCompare(window, "active", true);
         mouseClick(item("startStopButton"));
         tryCompare(window, "hasFirstFrame", true, 20000);
+        tryVerify(() => item("overlayCanvas").ovlPxScale > 0);
     }
 
     function cleanup() {
@@ -70,6 +71,36 @@ TestCase {
         verify(item("zoomControl").visible);
     }
 
+    // Marks that run on under panel and bars cannot be taken hold of there.
+    function test_marksUnderPanelAndBarsAreOutOfReach_data() {
+        return [
+            { tag: "left panel", name: "leftPanel" },
+            { tag: "top bar", name: "topBar" },
+            { tag: "status bar", name: "footerBar" },
+            { tag: "zoom control", name: "zoomControl" }
+        ];
+    }
+    function test_marksUnderPanelAndBarsAreOutOfReach(data) {
+        const overlay = item("overlayCanvas");
+        const cover = item(data.name);
+        // Away from the controls, but not in a corner.
+        const point = cover.mapToItem(overlay, cover.width - 50, cover.height - 6);
+        ViewModel.circle1Enabled = true;
+        ViewModel.circle1Radius = Math.hypot(point.x - overlay.ovlScx, point.y - overlay.ovlScy)
+                                  / overlay.ovlPxScale;
+        const radius = ViewModel.circle1Radius;
+        compare(overlay.circleAtEdge(point.x, point.y), 1);
+        mouseMove(overlay, point.x - 1, point.y);
+        mouseMove(overlay, point.x, point.y);
+        compare(overlay.hoverCircle, 0);
+        mousePress(overlay, point.x, point.y);
+        mouseMove(overlay, point.x - 20, point.y);
+        mouseMove(overlay, point.x - 40, point.y);
+        compare(overlay.dragCircle, 0);
+        mouseRelease(overlay, point.x - 40, point.y);
+        compare(ViewModel.circle1Radius, radius);
+    }
+
     // While a calibration runs the picture is shown whole; the zoom comes back afterwards.
     function test_calibrationShowsTheWholePicture() {
         ViewModel.zoom = 3;
@@ -88,6 +119,10 @@ TestCase {
         fuzzyCompare(sector.x + sector.sectorCx, overlay.ovlScx, 1e-6);
         fuzzyCompare(sector.y + sector.sectorCy, overlay.ovlScy, 1e-6);
         fuzzyCompare(sector.pxScale, overlay.ovlPxScale, 1e-9);
+        for (const [alignment, color] of [[0, "red"], [0.5, "yellow"], [1, "lime"]]) {
+            ViewModel.controller.blobSectorAlignmentChanged(alignment);
+            verify(Math.abs(sector.alignmentColor.hslHue - Qt.color(color).hslHue) < 0.01, color);
+        }
 
         ViewModel.cancelCalibration();
         tryCompare(sector, "visible", false);

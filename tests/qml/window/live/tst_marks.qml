@@ -98,7 +98,7 @@ Item {
             ViewModel.centerY = data.cy;
             ViewModel.circle1Radius = data.radius;
             ViewModel.zoom = data.zoom;
-            tryVerify(() => videoItem.viewSourceRect.height > 0);
+            tryVerify(() => overlay.ovlPxScale > 0);
             settle();
             const image = grabImage(scene);
 
@@ -124,7 +124,7 @@ Item {
         function test_dashes() {
             videoItem.clearFrame();
             videoItem.setFrame(testFrames.ring(1600, 1200, 0, 0, 1, 1));
-            tryVerify(() => videoItem.viewSourceRect.height > 0);
+            tryVerify(() => overlay.ovlPxScale > 0);
             ViewModel.centerX = 800;
             ViewModel.centerY = 600;
             ViewModel.circle1Enabled = false;

@@ -66,9 +66,10 @@ TestCase {
         compare(window.height, 950);
         compare(window.minimumWidth, 800);
         compare(window.minimumHeight, 600);
-        compare(window._normalX, Math.round((Screen.width - 1600) / 2));
-        compare(window._normalY, Math.round((Screen.height - 950) / 2));
-        fuzzyCompare(window.x, window._normalX, frameMargin);
+        fuzzyCompare(window.x, (Screen.width - 1600) / 2, frameMargin);
+        fuzzyCompare(window.y, (Screen.height - 950) / 2, frameMargin);
+        compare([window._normalX, window._normalY, window._normalW, window._normalH],
+                [window.x, window.y, 1600, 950]);
     }
 
     function test_savedPosition_data() {
@@ -86,8 +87,6 @@ TestCase {
         open();
         compare(window.width, 900);
         compare(window.height, 700);
-        compare(window._normalX, data.expectedX);
-        compare(window._normalY, data.expectedY);
         fuzzyCompare(window.x, data.expectedX, frameMargin);
         fuzzyCompare(window.y, data.expectedY, frameMargin);
     }
