@@ -60,6 +60,8 @@ Item {
     }
 
     OverlayCanvas {
+        id: overlayCanvas
+
         objectName: "overlayCanvas"
         anchors.fill: videoItem
         visible: ViewModel.running && captureArea.hasFirstFrame
@@ -68,6 +70,8 @@ Item {
     }
 
     GuideSector {
+        id: sectorClip
+
         objectName: "sectorClip"
         x: captureArea.displayX
         y: captureArea.displayY

@@ -76,6 +76,7 @@ ApplicationWindow {
     height: ViewModel.savedWindowHeight > 0 ? ViewModel.savedWindowHeight : 950
     minimumWidth: 800
     minimumHeight: 600
+    objectName: "root"
     title: "Meridax"
     color: ViewModel.darkMode ? "#333333" : "#E8E8E8"
     Material.theme: ViewModel.darkMode ? Material.Dark : Material.Light
@@ -175,6 +176,8 @@ ApplicationWindow {
     }
 
     ZoomControl {
+        id: zoomControl
+
         objectName: "zoomControl"
         z: 6
         visible: ViewModel.running && !ViewModel.calibrationActive && ViewModel.showZoomOverlay

@@ -194,6 +194,8 @@ Canvas {
     DragHandler {
         target: null
         acceptedButtons: Qt.LeftButton
+        // Never from the controls and panels that lie over the picture.
+        grabPermissions: PointerHandler.ApprovesTakeOverByAnything
         cursorShape: overlay.dragCircle > 0 ? Qt.SizeAllCursor
                                             : overlay.crossActive ? Qt.OpenHandCursor
                                                                   : Qt.ArrowCursor

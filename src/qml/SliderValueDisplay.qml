@@ -50,7 +50,7 @@ Item {
         width: number.implicitWidth + 12
         height: number.implicitHeight + 4
         radius: 4
-        visible: numberArea.enabled && numberArea.containsMouse
+        visible: numberArea.pointed
         color: "transparent"
         border.width: 1
         border.color: "#4A9ECA"
@@ -60,6 +60,9 @@ Item {
     // The size of the number and not of the row, so that a double click beside it edits nothing.
     MouseArea {
         id: numberArea
+
+        readonly property bool pointed: enabled && containsMouse
+
         anchors.centerIn: parent
         width: number.implicitWidth + 16
         height: number.implicitHeight + 8
@@ -68,7 +71,7 @@ Item {
         cursorShape: Qt.IBeamCursor
         onDoubleClicked: root.beginEditing()
 
-        ToolTip.visible: containsMouse && ViewModel.showTooltips
+        ToolTip.visible: pointed && ViewModel.showTooltips
         ToolTip.delay: 400
         ToolTip.text: qsTr("Doppelklick zum Bearbeiten")
     }

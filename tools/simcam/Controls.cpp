@@ -8,7 +8,7 @@ namespace meridax::simcam {
 
 namespace {
 
-constexpr int kNominalExposure = 157; // in units of 100 us; the automatic exposure arrives here
+constexpr int kNominalExposure = 333; // in units of 100 us; the automatic exposure arrives here
 constexpr int kFocusMax = 1023;
 
 const char *const kExposureMenu[] = {"Auto Mode", "Manual Mode", "Shutter Priority Mode",
@@ -109,7 +109,7 @@ Picture pictureOf(const State &state)
 {
     const auto value = [&](std::uint32_t id) { return double(valueOf(state, id)); };
     Picture p{};
-    p.exposure = isManualExposure(state) ? value(V4L2_CID_EXPOSURE_ABSOLUTE) / kNominalExposure : 1;
+    p.exposure = isManualExposure(state) ? exposureTime(state) / (kNominalExposure * 1e-4) : 1;
     p.exposure *= 1 + 0.05 * (value(V4L2_CID_BACKLIGHT_COMPENSATION) - 1);
     p.gain = 1 + value(V4L2_CID_GAIN) / 50;
     p.contrast = value(V4L2_CID_CONTRAST) / 32;
@@ -135,7 +135,11 @@ Picture pictureOf(const State &state)
 
 double exposureTime(const State &state)
 {
-    return isManualExposure(state) ? valueOf(state, V4L2_CID_EXPOSURE_ABSOLUTE) * 1e-4 : 0;
+    if (!isManualExposure(state))
+        return 0;
+    const double wanted = valueOf(state, V4L2_CID_EXPOSURE_ABSOLUTE) * 1e-4;
+    const bool maySlowDown = valueOf(state, V4L2_CID_EXPOSURE_AUTO_PRIORITY) != 0;
+    return maySlowDown ? wanted : std::min(wanted, kNominalExposure * 1e-4);
 }
 
 } // namespace meridax::simcam

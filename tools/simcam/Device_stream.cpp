@@ -61,7 +61,7 @@ void Device::stopStream(Lock &lock)
 
 double Device::framePeriod() const
 {
-    // A long exposure slows a real camera down, too.
+    // A long exposure slows a real camera down, too, where it may.
     const double period =
         std::max(1.0 / std::max(1U, m_state.framesPerSecond.load()), exposureTime(m_state));
     return period + double(m_state.get(Param::FrameDelay));

@@ -27,6 +27,7 @@ TestCase {
         ViewModel.saveWindowGeometry(0, 0, 1200, 800, false);
         window = createTemporaryObject(mainComponent, testCase);
         tryCompare(window, "active", true);
+        ViewModel.selectedResolutionIndex = ViewModel.resolutionOptions.length - 1; // the smallest
         mouseClick(item("startStopButton"));
         tryCompare(window, "hasFirstFrame", true, 20000);
         tryVerify(() => item("overlayCanvas").ovlPxScale > 0);
@@ -69,6 +70,19 @@ TestCase {
         verify(!item("zoomControl").visible);
         ViewModel.showZoomOverlay = true;
         verify(item("zoomControl").visible);
+    }
+
+    function test_zoomSliderCanBeDraggedOverThePicture() {
+        ViewModel.zoom = 1;
+        const slider = item("zoomSlider");
+        const y = slider.height / 2;
+        mousePress(slider, slider.leftPadding + 5, y);
+        for (let x = slider.leftPadding + 5; x <= slider.width / 2; x += 8)
+            mouseMove(slider, x, y);
+        mouseMove(slider, slider.width / 2, y);
+        mouseRelease(slider, slider.width / 2, y);
+        fuzzyCompare(ViewModel.zoom, 3, 0.05);
+        ViewModel.zoom = 1;
     }
 
     // Marks that run on under panel and bars cannot be taken hold of there.

@@ -67,7 +67,6 @@ Item {
             painted.clear();
             overlay.requestPaint();
             painted.wait();
-            waitForRendering(overlay);
         }
 
         function init() {
