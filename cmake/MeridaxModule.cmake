@@ -8,6 +8,10 @@ include(${CMAKE_CURRENT_SOURCE_DIR}/src/qml/files.cmake)
 
 set_source_files_properties(src/qml/Theme.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
 set_source_files_properties(${meridax_qml_internal} PROPERTIES QT_QML_SKIP_QMLDIR_ENTRY TRUE)
+# qmllint takes QML documents only and crashes on modules of plain functions (Qt 6.8).
+set(meridax_qml_modules ${meridax_qml_internal})
+list(FILTER meridax_qml_modules INCLUDE REGEX "\\.mjs$")
+set_source_files_properties(${meridax_qml_modules} PROPERTIES QT_QML_SKIP_QMLLINT TRUE)
 
 qt_add_library(meridax_module STATIC)
 qt_add_qml_module(meridax_module

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import Meridax
 
 /// "−" or "+" beside the zoom slider.
 AbstractButton {

@@ -65,6 +65,3 @@ set(meridax_qml_internal
     src/qml/overlayGeometry.mjs
     src/qml/plotGeometry.mjs
 )
-
-# A qmldir in src/qml would send that import on to the module's own list, which lacks the parts.
-qt_policy(SET QTP0004 OLD)
