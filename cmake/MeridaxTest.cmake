@@ -6,6 +6,17 @@
 #
 # CAMERA runs the test with the simulated camera attached; DISPLAY on a virtual X display, where
 # the scene graph draws with OpenGL, instead of the offscreen platform.
+# A sanitizer's run-time library has to come before the preloaded camera.
+set(MERIDAX_SANITIZER_PRELOAD "")
+if(MERIDAX_SANITIZE MATCHES "address|thread")
+    string(REGEX MATCH "address|thread" _sanitizer ${MERIDAX_SANITIZE})
+    string(REPLACE address asan _sanitizer ${_sanitizer})
+    string(REPLACE thread tsan _sanitizer ${_sanitizer})
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=lib${_sanitizer}.so
+        OUTPUT_VARIABLE _library OUTPUT_STRIP_TRAILING_WHITESPACE)
+    set(MERIDAX_SANITIZER_PRELOAD --preload ${_library})
+endif()
+
 function(meridax_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "CAMERA;DISPLAY" "TIMEOUT"
         "SOURCES;LIBRARIES;LABELS;ENVIRONMENT")
@@ -21,7 +32,7 @@ function(meridax_add_test name)
 
     set(command ${PROJECT_SOURCE_DIR}/tests/run-isolated)
     if(arg_CAMERA)
-        list(APPEND command --camera $<TARGET_FILE:simcam>)
+        list(APPEND command --camera $<TARGET_FILE:simcam> ${MERIDAX_SANITIZER_PRELOAD})
     endif()
     if(arg_DISPLAY)
         list(APPEND command --display)

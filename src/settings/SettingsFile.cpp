@@ -18,7 +18,7 @@ QString settingsFilePath()
 
 AppSettings loadSettings()
 {
-    const AppSettings defaults;
+    AppSettings defaults;
     QFile file(settingsFilePath());
     if (!file.open(QIODevice::ReadOnly))
         return defaults;

@@ -15,8 +15,7 @@
 
 using namespace meridax;
 
-namespace
-{
+namespace {
 
 const QString kServerName = QStringLiteral("TO-Meridax-SingleInstance");
 
@@ -24,8 +23,8 @@ const QString kServerName = QStringLiteral("TO-Meridax-SingleInstance");
 class Instance
 {
 public:
-    explicit Instance(const QProcessEnvironment &environment =
-                          QProcessEnvironment::systemEnvironment())
+    explicit Instance(
+        const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment())
     {
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::MergedChannels);
@@ -114,8 +113,8 @@ private slots:
     {
         QFETCH(QByteArray, content);
         const QString folder =
-            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-            + QStringLiteral("/Tarnwick Optics/Meridax");
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+            QStringLiteral("/Tarnwick Optics/Meridax");
         QVERIFY(QDir().mkpath(folder));
         QFile file(folder + QStringLiteral("/appsettings.json"));
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -146,10 +145,10 @@ private slots:
     {
         // A folder of the socket's name can neither be removed nor listened on.
         QVERIFY(QDir(QDir::tempPath()).mkpath(kServerName + QStringLiteral("/occupied")));
-        QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral(
-                                 "^\\[main\\] QLocalServer konnte nicht starten: .+ — "
-                                 "Activate-on-Second-Launch deaktiviert$")));
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            QRegularExpression(QStringLiteral("^\\[main\\] QLocalServer konnte nicht starten: .+ — "
+                                              "Activate-on-Second-Launch deaktiviert$")));
         const ActivationServer server([] {});
         QElapsedTimer timer;
         timer.start();

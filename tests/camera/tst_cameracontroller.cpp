@@ -113,7 +113,9 @@ private slots:
         QTRY_VERIFY(frames.size() >= 1);
         simcam({QStringLiteral("set"), fault});
         // Some pass through the live path and some through that of a calibration.
-        const auto framesOfTheCamera = [] { return simcam({QStringLiteral("get"), QStringLiteral("frames")}).toInt(); };
+        const auto framesOfTheCamera = [] {
+            return simcam({QStringLiteral("get"), QStringLiteral("frames")}).toInt();
+        };
         const int faulty = framesOfTheCamera();
         QTRY_VERIFY(framesOfTheCamera() > faulty + 5);
         controller.startCalibration(3);

@@ -276,8 +276,8 @@ void tst_simcamStream::controlsChangeThePicture_data()
     row("gamma", {{V4L2_CID_GAMMA, 200}}, meanLuma, 1.1, 2);
     row("short exposure", {manual, {V4L2_CID_EXPOSURE_ABSOLUTE, 166}}, meanLuma, 0.45, 0.7);
     row("long exposure",
-        {manual, {V4L2_CID_EXPOSURE_AUTO_PRIORITY, 1}, {V4L2_CID_EXPOSURE_ABSOLUTE, 500}},
-        meanLuma, 1.2, 1.6);
+        {manual, {V4L2_CID_EXPOSURE_AUTO_PRIORITY, 1}, {V4L2_CID_EXPOSURE_ABSOLUTE, 500}}, meanLuma,
+        1.2, 1.6);
     row("cut to 1/30 s", {manual, {V4L2_CID_EXPOSURE_ABSOLUTE, 5000}}, meanLuma, 0.97, 1.03);
     row("grey", {{V4L2_CID_SATURATION, 0}}, colour, 0, 0.01);
     row("best focus", {noAutofocus, {V4L2_CID_FOCUS_ABSOLUTE, 380}}, structure, 0.98, 1.02);
