@@ -139,13 +139,14 @@ private:
         QObject context;
         connect(&controller, &CameraController::frameReady, &context,
                 [&published](const QImage &frame) { published = frame; });
-        // A frame still in flight would make this one drop: offer it again until it is taken.
-        const bool arrived = QTest::qWaitFor([&] {
-            if (published.isNull())
-                controller.onVideoFrame(QVideoFrame(image));
-            return !published.isNull() && published.size() == image.size();
-        });
-        return arrived ? published : QImage();
+        // The pipeline frees itself a moment after it has published. A frame that comes in that
+        // moment is dropped, which shows by its staying away.
+        for (int attempt = 0; attempt < 5; ++attempt) {
+            controller.onVideoFrame(QVideoFrame(image));
+            if (QTest::qWaitFor([&] { return published.size() == image.size(); }, 2000))
+                return published;
+        }
+        return {};
     }
 };
 
