@@ -56,7 +56,6 @@ void CameraController::updateSettings(const AppSettings &settings)
                                now.cameraResolutionY != before.cameraResolutionY;
 
     m_settings = settings;
-    m_detectorDirty = true;
 
     if (!isRunning())
         return;

@@ -116,7 +116,7 @@ private:
     bool deviceIsGone() const;
     void applyCameraFormat();
     void applyCameraControls();
-    void applyControlsThroughQt();
+    void applyControlsThroughQt(QCamera &camera) const;
     void onActiveChanged(bool active);
     void onCameraError(const QString &errorText);
     void onVideoInputsChanged();
@@ -151,7 +151,6 @@ private:
     QVideoSink m_sink;
     std::unique_ptr<ICameraBackend> m_backend; ///< may be null
     AppSettings m_settings;                    ///< GUI thread only
-    std::atomic<bool> m_detectorDirty = true;
 
     bool m_capabilitiesQueried = false;
     std::atomic<bool> m_capabilitiesProbeRunning = false;
@@ -164,8 +163,10 @@ private:
     bool m_hasPending = false;
     bool m_stopRequested = false;
 
-    std::atomic<bool> m_frameInFlight = false; ///< a frame is accepted and not finished
-    std::atomic<bool> m_streaming = false;     ///< frames may be published
+    /// A frame of the present generation is accepted and not finished. Set by the GUI thread;
+    /// cleared by whoever ends the frame, unless it was given up before.
+    std::atomic<bool> m_frameInFlight = false;
+    std::atomic<bool> m_streaming = false; ///< frames may be published
     std::atomic<std::uint64_t> m_frameGeneration = 0;
     std::atomic<int> m_lastWidth = -1;
     std::atomic<int> m_lastHeight = -1;

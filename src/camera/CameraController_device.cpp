@@ -131,22 +131,23 @@ void CameraController::applyCameraControls()
 {
     if (!m_camera || deviceIsGone())
         return;
-    m_camera->setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
-                                                             : QCamera::FocusModeAuto);
-    m_camera->setExposureMode(QCamera::ExposureAuto);
-    if (m_backend && m_backend->applySettings(m_settings.camera, nullptr))
-        return;
-    applyControlsThroughQt();
+    // An error that a call raises lets go of m_camera; the object itself lives on for a turn.
+    QCamera &camera = *m_camera;
+    camera.setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
+                                                          : QCamera::FocusModeAuto);
+    camera.setExposureMode(QCamera::ExposureAuto);
+    if (!m_backend || !m_backend->applySettings(m_settings.camera, nullptr))
+        applyControlsThroughQt(camera);
 }
 
-void CameraController::applyControlsThroughQt()
+void CameraController::applyControlsThroughQt(QCamera &camera) const
 {
-    const CameraSettings &camera = m_settings.camera;
-    if (camera.focusValue > 0)
-        m_camera->setFocusDistance(focusDistance(camera.focusValue, camera.focusRangeMax));
-    if (m_camera->supportedFeatures().testFlag(QCamera::Feature::ManualExposureTime)) {
-        m_camera->setExposureMode(QCamera::ExposureManual);
-        m_camera->setManualExposureTime(exposureSeconds(camera.captureTimeMs));
+    const CameraSettings &settings = m_settings.camera;
+    if (settings.focusValue > 0)
+        camera.setFocusDistance(focusDistance(settings.focusValue, settings.focusRangeMax));
+    if (camera.supportedFeatures().testFlag(QCamera::Feature::ManualExposureTime)) {
+        camera.setExposureMode(QCamera::ExposureManual);
+        camera.setManualExposureTime(exposureSeconds(settings.captureTimeMs));
     }
 }
 

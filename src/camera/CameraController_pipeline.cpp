@@ -33,12 +33,10 @@ void CameraController::onVideoFrame(const QVideoFrame &frame)
 
 void CameraController::invalidateFramesInFlight()
 {
+    const std::lock_guard lock(m_pendingMutex);
     ++m_frameGeneration;
-    {
-        const std::lock_guard lock(m_pendingMutex);
-        m_hasPending = false;
-        m_pending.image = {};
-    }
+    m_hasPending = false;
+    m_pending.image = {};
     m_frameInFlight = false;
 }
 
@@ -57,9 +55,12 @@ void CameraController::processingLoop()
             processCalibrationFrame(frame);
         else
             processFrame(frame);
-        m_frameInFlight = false;
 
         lock.lock();
+        // A frame that was given up meanwhile must not clear the flag of its successor: from then
+        // on there would always be a second frame waiting in the slot.
+        if (frame.generation == m_frameGeneration)
+            m_frameInFlight = false;
     }
 }
 

@@ -110,6 +110,10 @@ cv::Ptr<cv::SimpleBlobDetector> createBlobDetector(const BlobSettings &settings)
     cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
     params.minCircularity = std::max(params.minCircularity, smallest);
     params.minInertiaRatio = std::max(params.minInertiaRatio, smallest);
+    // Nothing exceeds the highest grey level, but every threshold above it would cost a step.
+    constexpr float highestLevel = 255.0F;
+    params.minThreshold = std::min(params.minThreshold, highestLevel);
+    params.maxThreshold = std::min(params.maxThreshold, highestLevel);
     return cv::SimpleBlobDetector::create(params);
 }
 
@@ -123,6 +127,8 @@ std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv
     }
 
     const double scale = static_cast<double>(detectionColumns) / grey.cols;
+    if (grey.rows * scale < 1.0)
+        return keypoints;
     cv::resize(grey, scaled, cv::Size(), scale, scale, cv::INTER_AREA);
     detector.detect(scaled, keypoints);
     const float back = static_cast<float>(1.0 / scale);

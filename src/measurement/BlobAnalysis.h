@@ -20,14 +20,16 @@ namespace meridax {
 cv::SimpleBlobDetector::Params buildDetectorParams(const BlobSettings &settings);
 
 /// A detector for `settings`. It takes every setting that buildDetectorParams() takes, also a
-/// lower limit of 0 for circularity or inertia, which the library itself refuses.
+/// lower limit of 0 for circularity or inertia, which the library itself refuses, and thresholds
+/// of any size without searching beyond the grey levels there are.
 cv::Ptr<cv::SimpleBlobDetector> createBlobDetector(const BlobSettings &settings);
 
 /// Finds the blobs in `grey`. An image wider than 1280 columns is searched at that width, so that
 /// the areas of the settings mean pixels of the reduced image; the keypoints are always in full
 /// resolution. `scaled` is the buffer of the reduced image, kept by the caller between frames.
 ///
-/// A range that holds a single threshold finds nothing, since a blob has to show at two.
+/// A range that holds a single threshold finds nothing, since a blob has to show at two. Neither
+/// does an image so flat that it would lose its only row.
 std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv::Mat &grey,
                                       cv::Mat &scaled);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "measurement/CalibrationRun.h"
+#include "settings/AppSettings.h"
 
 #include <opencv2/core.hpp>
 #include <opencv2/features2d.hpp>
@@ -29,8 +30,16 @@ struct CalibrationSession
 
     // Processing thread only. The images are kept for their memory.
     cv::Ptr<cv::SimpleBlobDetector> detector;
+    BlobSettings detectorSettings; ///< what `detector` was built from
     cv::Mat grey;
     cv::Mat scaled;
+
+    /// The detector is missing or was built from other settings than those of the frame, which may
+    /// be older than the controller's.
+    bool detectorDirty(const BlobSettings &settings) const
+    {
+        return !detector || detectorSettings != settings;
+    }
 };
 
 } // namespace meridax

@@ -67,7 +67,6 @@ void CameraController::startCalibration(int positions)
         m_calibration->guideIndex = 0;
     }
     resetBlobState();
-    m_detectorDirty = true;
     m_calibration->active = true; // last, when everything a frame meets is in place
 
     emit guideIndexChanged(0, m_calibration->positions);
@@ -103,9 +102,10 @@ void CameraController::measurePosition()
 void CameraController::analyseCalibrationFrame(cv::Mat &frame, const AppSettings &settings)
 {
     CalibrationSession &session = *m_calibration;
-    // Cleared before the settings are used: a change that comes meanwhile marks it dirty again.
-    if (m_detectorDirty.exchange(false) || !session.detector)
+    if (session.detectorDirty(settings.blob)) {
         session.detector = createBlobDetector(settings.blob);
+        session.detectorSettings = settings.blob;
+    }
 
     cv::cvtColor(frame, session.grey, cv::COLOR_BGR2GRAY);
     const std::vector<cv::KeyPoint> blobs =

@@ -1,8 +1,8 @@
+#include "SignalRecorder.h"
 #include "camera/CameraController.h"
 
 #include <QMediaDevices>
 #include <QProcess>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace meridax;
@@ -24,9 +24,9 @@ private slots:
     void streamsInTheChosenFormatAndStops()
     {
         CameraController controller;
-        QSignalSpy running(&controller, &CameraController::runningChanged);
-        QSignalSpy frames(&controller, &CameraController::frameReady);
-        QSignalSpy errors(&controller, &CameraController::errorOccurred);
+        const SignalRecorder running(&controller, &CameraController::runningChanged);
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
+        const SignalRecorder errors(&controller, &CameraController::errorOccurred);
         controller.updateSettings(settingsFor(1280, 720));
         controller.startCamera();
         QTRY_VERIFY(frames.size() >= 3);
@@ -44,7 +44,7 @@ private slots:
     void changesTheFormatWhileRunning()
     {
         CameraController controller;
-        QSignalSpy sizes(&controller, &CameraController::actualResolutionChanged);
+        const SignalRecorder sizes(&controller, &CameraController::actualResolutionChanged);
         controller.updateSettings(settingsFor(640, 480));
         controller.startCamera();
         QTRY_COMPARE(sizes.size(), 1);
@@ -57,7 +57,7 @@ private slots:
     void twoStartsInQuickSuccession()
     {
         CameraController controller;
-        QSignalSpy frames(&controller, &CameraController::frameReady);
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
         controller.updateSettings(settingsFor(640, 480));
         controller.startCamera();
         controller.startCamera();
@@ -68,9 +68,9 @@ private slots:
     void unpluggingIsOneErrorAndTheEndOfTheStream()
     {
         CameraController controller;
-        QSignalSpy running(&controller, &CameraController::runningChanged);
-        QSignalSpy errors(&controller, &CameraController::errorOccurred);
-        QSignalSpy frames(&controller, &CameraController::frameReady);
+        const SignalRecorder running(&controller, &CameraController::runningChanged);
+        const SignalRecorder errors(&controller, &CameraController::errorOccurred);
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
         controller.updateSettings(settingsFor(640, 480));
         controller.startCamera();
         QTRY_VERIFY(frames.size() >= 1);
@@ -96,6 +96,46 @@ private slots:
         QCOMPARE(errors.size(), 1);
     }
 
+    // The notice of an unplugged camera takes a turn of the event loop; what follows comes before
+    // it.
+    void stoppedBeforeItsEndIsNoticed()
+    {
+        CameraController controller;
+        controller.updateSettings(settingsFor(640, 480));
+        controller.startCamera();
+        QTRY_VERIFY(!controller.latestFrame().isNull());
+        unplugBetweenFrames();
+        controller.updateSettings(settingsFor(1280, 720));
+        controller.stopCamera();
+        QVERIFY(!controller.isRunning());
+        QTRY_VERIFY(QMediaDevices::videoInputs().isEmpty());
+    }
+
+    void startedAfterItsEndUnnoticed()
+    {
+        CameraController controller;
+        const SignalRecorder errors(&controller, &CameraController::errorOccurred);
+        simcam({QStringLiteral("unplug")});
+        QCOMPARE(QMediaDevices::videoInputs().size(), 1);
+        controller.startCamera();
+        QTRY_COMPARE(errors.size(), 1);
+        QVERIFY(!controller.isRunning());
+        QTRY_VERIFY(QMediaDevices::videoInputs().isEmpty());
+    }
+
+    void destroyedInACalibrationOnADeadCamera()
+    {
+        auto controller = std::make_unique<CameraController>();
+        controller->updateSettings(settingsFor(640, 480));
+        controller->startCamera();
+        controller->startCalibration(3);
+        const SignalRecorder blobs(controller.get(), &CameraController::blobsDetected);
+        QTRY_VERIFY(!blobs.isEmpty());
+        unplugBetweenFrames();
+        controller.reset();
+        QTRY_VERIFY(QMediaDevices::videoInputs().isEmpty());
+    }
+
     void damagedFramesPassThrough_data()
     {
         QTest::addColumn<QString>("fault");
@@ -107,7 +147,7 @@ private slots:
     {
         QFETCH(QString, fault);
         CameraController controller;
-        QSignalSpy frames(&controller, &CameraController::frameReady);
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
         controller.updateSettings(settingsFor(640, 480));
         controller.startCamera();
         QTRY_VERIFY(frames.size() >= 1);
@@ -134,6 +174,13 @@ private:
         settings.camera.cameraResolutionX = width;
         settings.camera.cameraResolutionY = height;
         return settings;
+    }
+
+    /// Unplugs a camera that writes no frame at that moment.
+    static void unplugBetweenFrames()
+    {
+        simcam({QStringLiteral("set"), QStringLiteral("stall=1")});
+        simcam({QStringLiteral("unplug")});
     }
 
     /// Runs the camera's command line tool and returns what it prints.
