@@ -58,19 +58,13 @@ Pane {
             onValueModified: newValue => { ViewModel.calibrationMeasureFrames = newValue; }
         }
 
-        Button {
+        FilledButton {
             objectName: "calibrationStartButton"
             Layout.fillWidth: true
-            implicitHeight: 40
-            topInset: 0
-            bottomInset: 0
             text: ViewModel.calibrationActive ? qsTr("Kalibrierung läuft…")
                                               : qsTr("Kalibrierung starten")
             enabled: root.controlsEnabled && !ViewModel.calibrationActive
             Material.background: "#4CAF50"
-            Material.roundedScale: Material.ExtraSmallScale
-            Accessible.role: Accessible.Button
-            Accessible.name: text
             onClicked: ViewModel.startCalibration()
         }
 
@@ -101,16 +95,11 @@ Pane {
                 onClicked: ViewModel.measurePosition()
             }
 
-            Button {
+            FilledButton {
                 objectName: "cancelCalibrationButton"
-                implicitHeight: 40
-                topInset: 0
-                bottomInset: 0
                 text: qsTr("Abbrechen")
-                Material.background: Material.Red
-                Material.roundedScale: Material.ExtraSmallScale
-                Accessible.role: Accessible.Button
-                Accessible.name: text
+                // The plain red: the dark theme's own shade is too pale under white text.
+                Material.background: Material.color(Material.Red)
                 onClicked: ViewModel.cancelCalibration()
             }
         }

@@ -19,7 +19,9 @@ Dialog {
                                    : { text: qsTr("Güte nicht bewertbar"), color: Theme.textMuted }
 
     parent: Overlay.overlay
-    anchors.centerIn: parent
+    // Centred on whole pixels: on half ones text blurs and thin lines vanish.
+    x: Math.round((parent.width - width) / 2)
+    y: Math.round((parent.height - height) / 2)
     width: 440
     height: Math.min(implicitHeight, parent.height - 32)
     modal: true
@@ -58,6 +60,13 @@ Dialog {
             }
             policy: flickable.contentHeight > flickable.height ? ScrollBar.AlwaysOn
                                                                : ScrollBar.AlwaysOff
+            background: Item {}
+            // Also tells whether the arrow keys scroll.
+            contentItem: Rectangle {
+                implicitWidth: 6
+                radius: 3
+                color: flickable.activeFocus ? scrollBar.Material.accentColor : Theme.textMuted
+            }
         }
 
         ColumnLayout {
@@ -130,6 +139,11 @@ Dialog {
         }
     }
 
+    // The library takes its own texts from its own catalogue, which need not be there.
+    Component.onCompleted: {
+        standardButton(Dialog.Yes).text = Qt.binding(() => qsTr("Ja"));
+        standardButton(Dialog.No).text = Qt.binding(() => qsTr("Nein"));
+    }
     onAboutToShow: flickable.contentY = 0
     onRejected: ViewModel.discardPendingCenter()
 }

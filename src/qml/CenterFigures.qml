@@ -5,52 +5,42 @@ import Meridax
 
 /// The figures of a finished circle fit, one a row.
 GridLayout {
-    id: figures
+    id: root
 
     required property color qualityColor
-
-    readonly property string undefinedText: qsTr("n. def.")
-    readonly property string centerText: "%1  /  %2".arg(ViewModel.pendingCenterX.toFixed(2))
-                                                    .arg(ViewModel.pendingCenterY.toFixed(2))
-    readonly property string sigmaText: ViewModel.qualityAssessable
-                                        ? ViewModel.centerSigma.toFixed(2) + " px" : undefinedText
-    readonly property string stdDevText: ViewModel.fitPointCount > 4
-                                         ? ViewModel.fitStdDev.toFixed(3) + " px" : undefinedText
-
-    component Figure: Label {
-        font.pixelSize: 12
-        color: Theme.text
-        Layout.fillWidth: true
-    }
-
-    component FigureName: Label {
-        font.pixelSize: 12
-        color: Theme.text
-    }
 
     columns: 2
     columnSpacing: 16
     rowSpacing: 4
 
-    Figure {
-        text: qsTr("Taubin-Fit (%1 Punkte)").arg(ViewModel.fitPointCount)
-        font.bold: true
+    Label {
         Layout.columnSpan: 2
+        text: qsTr("Taubin-Fit (%1 Punkte)").arg(ViewModel.fitPointCount)
+        font.pixelSize: 12
+        font.bold: true
+        color: Theme.text
     }
 
-    FigureName { text: qsTr("Center") }
-    Figure { text: figures.centerText }
+    FigureCaption { text: qsTr("Center") }
+    FigureValue {
+        text: "%1  /  %2".arg(ViewModel.pendingCenterX.toFixed(2))
+                         .arg(ViewModel.pendingCenterY.toFixed(2))
+    }
 
-    FigureName { text: qsTr("Radius") }
-    Figure { text: ViewModel.fitRadius.toFixed(2) + " px" }
+    FigureCaption { text: qsTr("Radius") }
+    FigureValue { text: ViewModel.fitRadius.toFixed(2) + " px" }
 
-    FigureName { text: qsTr("Zentrum ±") }
-    Figure {
-        text: figures.sigmaText
-        color: figures.qualityColor
+    FigureCaption { text: qsTr("Zentrum ±") }
+    FigureValue {
+        text: ViewModel.qualityAssessable ? ViewModel.centerSigma.toFixed(2) + " px"
+                                          : qsTr("n. def.")
+        color: root.qualityColor
     }
 
     // Neutral: it tells how round the path is, not how good the measurement.
-    FigureName { text: qsTr("Std-Abw.") }
-    Figure { text: figures.stdDevText }
+    FigureCaption { text: qsTr("Std-Abw.") }
+    FigureValue {
+        text: ViewModel.fitPointCount > 4 ? ViewModel.fitStdDev.toFixed(3) + " px"
+                                          : qsTr("n. def.")
+    }
 }

@@ -21,6 +21,7 @@ RowLayout {
         objectName: "switch"
         implicitHeight: 32
         leftPadding: 0
+        rightPadding: 0
         topPadding: 0
         bottomPadding: 0
         text: root.label

@@ -65,14 +65,14 @@ Rectangle {
         return formCause(order) + " " + qsTr("Das ist Form, kein Messfehler: neu messen ändert daran nichts, und der Mittelpunkt bleibt davon unberührt.");
     }
 
-    implicitHeight: column.implicitHeight + 20
+    implicitHeight: column.implicitHeight + 16
     radius: 4
     color: Theme.tableBg
 
     ColumnLayout {
         id: column
         anchors.fill: parent
-        anchors.margins: 10
+        anchors.margins: 8
         spacing: 6
 
         Label {

@@ -64,7 +64,7 @@ Canvas {
 
         ctx.strokeStyle = colIdeal;
         ctx.lineWidth = 1.5;
-        ctx.setLineDash([6, 4]);
+        ctx.setLineDash([6 / 1.5, 4 / 1.5]); // counted in line widths
         _circle(ctx, _plot.base);
         ctx.stroke();
         ctx.setLineDash([]);

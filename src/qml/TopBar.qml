@@ -140,6 +140,8 @@ Rectangle {
         }
 
         Button {
+            id: startStopButton
+
             objectName: "startStopButton"
             text: ViewModel.running ? qsTr("Stop") : qsTr("Start")
             highlighted: true
@@ -147,6 +149,17 @@ Rectangle {
             Material.accent: Material.color(ViewModel.running ? Material.Red : Material.Green)
             Accessible.name: text
             onClicked: ViewModel.running ? ViewModel.stopCamera() : ViewModel.startCamera()
+
+            FocusFrame {
+                anchors {
+                    topMargin: startStopButton.topInset - 3
+                    bottomMargin: startStopButton.bottomInset - 3
+                    leftMargin: -3
+                    rightMargin: -3
+                }
+                radius: height / 2
+                visible: startStopButton.visualFocus
+            }
         }
     }
 }

@@ -31,6 +31,7 @@ set(meridax_qml_internal
     src/qml/FewPositionsWarning.qml
     src/qml/FigureCaption.qml
     src/qml/FigureValue.qml
+    src/qml/FilledButton.qml
     src/qml/FilterSwitch.qml
     src/qml/FitTable.qml
     src/qml/FocusFrame.qml
