@@ -43,21 +43,31 @@ public:                                                                         
                                                                                                    \
 private:
 
-/// A setting whose writer stores the value with `store` (one of the private helpers store...).
-#define MERIDAX_SETTING(type, name, setter, field, store, notify)                                  \
+/// A setting of the camera, the overlay or the detector.
+#define MERIDAX_SETTING(type, name, setter, field, notify)                                         \
     Q_PROPERTY(type name READ name WRITE setter NOTIFY notify)                                     \
 public:                                                                                            \
     type name() const { return m_settings.field; }                                                 \
-    void setter(const type &value) { store(m_settings.field, value); }                             \
+    void setter(const type &value)                                                                 \
+    {                                                                                              \
+        store(m_settings.field, value, &CameraViewModel::notify);                                  \
+    }                                                                                              \
                                                                                                    \
 private:
 
 #define MERIDAX_OVERLAY_SETTING(type, name, setter, field)                                         \
-    MERIDAX_SETTING(type, name, setter, camera.field, storeOverlay, overlaySettingsChanged)
+    MERIDAX_SETTING(type, name, setter, camera.field, overlaySettingsChanged)
 #define MERIDAX_BLOB_SETTING(type, name, setter, field)                                            \
-    MERIDAX_SETTING(type, name, setter, blob.field, storeBlob, blobSettingsChanged)
+    MERIDAX_SETTING(type, name, setter, blob.field, blobSettingsChanged)
+
+/// A setting of the application, which does not concern the camera.
 #define MERIDAX_APP_SETTING(type, name, setter)                                                    \
-    MERIDAX_SETTING(type, name, setter, name, storeApplication, appSettingsChanged)
+    Q_PROPERTY(type name READ name WRITE setter NOTIFY appSettingsChanged)                         \
+public:                                                                                            \
+    type name() const { return m_settings.name; }                                                  \
+    void setter(const type &value) { storeApplication(m_settings.name, value); }                   \
+                                                                                                   \
+private:
 // clang-format on
 
 /// The one object the interface sees: every value the panels show is a property of it, everything
@@ -126,12 +136,11 @@ class CameraViewModel : public QObject
     Q_PROPERTY(int resolutionMinY READ resolutionMinY NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int resolutionMaxX READ resolutionMaxX NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int resolutionMaxY READ resolutionMaxY NOTIFY cameraSettingsChanged)
-    MERIDAX_SETTING(int, resolutionX, setResolutionX, camera.cameraResolutionX, storeCamera,
+    MERIDAX_SETTING(int, resolutionX, setResolutionX, camera.cameraResolutionX,
                     cameraSettingsChanged)
-    MERIDAX_SETTING(int, resolutionY, setResolutionY, camera.cameraResolutionY, storeCamera,
+    MERIDAX_SETTING(int, resolutionY, setResolutionY, camera.cameraResolutionY,
                     cameraSettingsChanged)
-    MERIDAX_SETTING(int, focusValue, setFocusValue, camera.focusValue, storeCamera,
-                    cameraSettingsChanged)
+    MERIDAX_SETTING(int, focusValue, setFocusValue, camera.focusValue, cameraSettingsChanged)
     Q_PROPERTY(int exposure READ exposure WRITE setExposure NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int brightness READ brightness WRITE setBrightness NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int contrast READ contrast WRITE setContrast NOTIFY cameraSettingsChanged)
@@ -355,24 +364,10 @@ private:
     void settingsChanged(Notify notify);
 
     template <typename T>
-    void storeCamera(T &field, const std::type_identity_t<T> &value)
+    void store(T &field, const std::type_identity_t<T> &value, Notify notify)
     {
         field = value;
-        settingsChanged(&CameraViewModel::cameraSettingsChanged);
-    }
-
-    template <typename T>
-    void storeOverlay(T &field, const std::type_identity_t<T> &value)
-    {
-        field = value;
-        settingsChanged(&CameraViewModel::overlaySettingsChanged);
-    }
-
-    template <typename T>
-    void storeBlob(T &field, const std::type_identity_t<T> &value)
-    {
-        field = value;
-        settingsChanged(&CameraViewModel::blobSettingsChanged);
+        settingsChanged(notify);
     }
 
     /// Application settings do not concern the camera; an equal value changes nothing.

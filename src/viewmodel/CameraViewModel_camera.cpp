@@ -153,7 +153,7 @@ void CameraViewModel::storeControl(int &field, int value, const ControlRange &ra
 {
     if (range.supported)
         value = std::max(range.min, std::min(value, range.max));
-    storeCamera(field, value);
+    store(field, value, &CameraViewModel::cameraSettingsChanged);
 }
 
 void CameraViewModel::setExposure(int value)
@@ -204,7 +204,7 @@ void CameraViewModel::migrateExposure()
     const int migrated = migratedExposure(former, range);
     if (migrated == former)
         return;
-    storeCamera(m_settings.camera.captureTimeMs, migrated);
+    store(m_settings.camera.captureTimeMs, migrated, &CameraViewModel::cameraSettingsChanged);
     qInfo() << "[Exposure] migrated old UI value" << former << "to hardware value" << migrated
             << "in range [" << range.min << ".." << range.max << "]";
 }
