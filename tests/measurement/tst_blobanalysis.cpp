@@ -64,318 +64,249 @@ class tst_BlobAnalysis : public QObject
     Q_OBJECT
 
 private slots:
-    void detectorLimits_data();
-    void detectorLimits();
-    void detectorFixedParameters();
-    void everySliderPositionDetects_data();
-    void everySliderPositionDetects();
-    void searchesAtMost1280Columns_data();
-    void searchesAtMost1280Columns();
-    void areasMeanDetectionPixels();
-    void findsOnlyDarkBlobs();
-    void refinesToSubPixel_data();
-    void refinesToSubPixel();
-    void refinementReachesAtLeast12Pixels();
-    void refinesDetectedBlob();
-    void refinementAtTheBorder_data();
-    void refinementAtTheBorder();
-    void refinementPicksNearestOutline();
-    void refinementFallsBack_data();
-    void refinementFallsBack();
-    void blobMark();
-    void calibrationResult();
-    void calibrationResultOutside_data();
-    void calibrationResultOutside();
-};
+    void detectorLimits_data()
+    {
+        QTest::addColumn<double>("min");
+        QTest::addColumn<double>("max");
+        QTest::addColumn<float>("expectedMin");
+        QTest::addColumn<float>("expectedMax");
 
-void tst_BlobAnalysis::detectorLimits_data()
-{
-    QTest::addColumn<double>("min");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<float>("expectedMin");
-    QTest::addColumn<float>("expectedMax");
+        QTest::newRow("minimum raised") << 0.0 << 1.5 << 1.0F << 2.0F;
+        QTest::newRow("crossed") << 200.0 << 100.0 << 200.0F << 201.0F;
+        QTest::newRow("less than one apart") << 50.0 << 50.5 << 50.0F << 51.0F;
+        QTest::newRow("narrowed before the step") << 0.7 + 1.0 << 2.0 << 1.7F << float(1.0 + 1.7F);
+        QTest::newRow("not a number") << qQNaN() << qQNaN() << 1.0F << 2.0F;
+    }
 
-    QTest::newRow("as set") << 10.0 << 230.0 << 10.0F << 230.0F;
-    QTest::newRow("minimum raised") << 0.0 << 1.5 << 1.0F << 2.0F;
-    QTest::newRow("negative") << -5.0 << -9.0 << 1.0F << 2.0F;
-    QTest::newRow("crossed") << 200.0 << 100.0 << 200.0F << 201.0F;
-    QTest::newRow("less than one apart") << 50.0 << 50.5 << 50.0F << 51.0F;
-    QTest::newRow("narrowed before the step") << 0.7 + 1.0 << 2.0 << 1.7F << float(1.0 + 1.7F);
-    QTest::newRow("not a number") << qQNaN() << qQNaN() << 1.0F << 2.0F;
-}
+    void detectorLimits()
+    {
+        QFETCH(double, min);
+        QFETCH(double, max);
+        BlobSettings settings{.minCircularity = 1.5, .minInertiaRatio = -0.5};
+        settings.minThreshold = settings.minArea = min;
+        settings.maxThreshold = settings.maxArea = max;
+        const cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
+        QTEST(params.minThreshold, "expectedMin");
+        QTEST(params.maxThreshold, "expectedMax");
+        QTEST(params.minArea, "expectedMin");
+        QTEST(params.maxArea, "expectedMax");
+        QCOMPARE(params.minCircularity, 1.0F);
+        QCOMPARE(params.minInertiaRatio, 0.0F);
+    }
 
-void tst_BlobAnalysis::detectorLimits()
-{
-    QFETCH(double, min);
-    QFETCH(double, max);
-    BlobSettings settings;
-    settings.minThreshold = settings.minArea = min;
-    settings.maxThreshold = settings.maxArea = max;
-    const cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
-    QTEST(params.minThreshold, "expectedMin");
-    QTEST(params.maxThreshold, "expectedMax");
-    QTEST(params.minArea, "expectedMin");
-    QTEST(params.maxArea, "expectedMax");
-}
+    void everySliderPositionDetects_data()
+    {
+        QTest::addColumn<BlobSettings>("settings");
+        QTest::addColumn<int>("blobs");
 
-void tst_BlobAnalysis::detectorFixedParameters()
-{
-    BlobSettings settings;
-    settings.minCircularity = 1.5;
-    settings.minInertiaRatio = -0.5;
-    settings.filterByArea = settings.filterByInertia = false;
-    const cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
-    QCOMPARE(params.minCircularity, 1.0F);
-    QCOMPARE(params.minInertiaRatio, 0.0F);
-    QVERIFY(!params.filterByArea);
-    QVERIFY(params.filterByCircularity);
-    QVERIFY(!params.filterByInertia);
+        QTest::newRow("defaults") << BlobSettings{} << 1;
+        QTest::newRow("any circularity, any inertia")
+            << BlobSettings{.minCircularity = 0.0, .minInertiaRatio = 0.0} << 1;
+        QTest::newRow("last single threshold")
+            << BlobSettings{.minThreshold = 100, .maxThreshold = 110} << 0;
+        QTest::newRow("two thresholds")
+            << BlobSettings{.minThreshold = 100, .maxThreshold = 111, .minCircularity = 0.8} << 1;
+        // The search costs a step for every 10 grey levels up to the maximum.
+        QTest::newRow("maximum beyond grey levels") << BlobSettings{.maxThreshold = 1e9} << 1;
+        QTest::newRow("both beyond grey levels")
+            << BlobSettings{.minThreshold = 1e9, .maxThreshold = 1e10} << 0;
+    }
 
-    QCOMPARE(params.thresholdStep, 10.0F);
-    QVERIFY(params.filterByColor);
-    QCOMPARE(params.blobColor, uchar(0));
-    QVERIFY(!params.filterByConvexity);
-    const cv::SimpleBlobDetector::Params library;
-    QCOMPARE(params.minRepeatability, library.minRepeatability);
-    QCOMPARE(params.minDistBetweenBlobs, library.minDistBetweenBlobs);
-}
+    void everySliderPositionDetects()
+    {
+        QFETCH(BlobSettings, settings);
+        const cv::Mat grey = paperWithDisc(320, 240, {160.3, 120.4}, 30.0);
+        QTEST(static_cast<int>(detect(grey, settings).size()), "blobs");
+        QVERIFY2(detect(255 - grey, settings).empty(), "a light blob");
+    }
 
-void tst_BlobAnalysis::everySliderPositionDetects_data()
-{
-    QTest::addColumn<BlobSettings>("settings");
-    QTest::addColumn<int>("blobs");
+    void searchesAtMost1280Columns_data()
+    {
+        QTest::addColumn<QSize>("frame");
+        QTest::addColumn<QSize>("searched"); // empty: the frame itself
+        QTest::addColumn<double>("tolerance");
 
-    QTest::newRow("defaults") << BlobSettings{} << 1;
-    QTest::newRow("any circularity, any inertia")
-        << BlobSettings{.minCircularity = 0.0, .minInertiaRatio = 0.0} << 1;
-    QTest::newRow("one threshold") << BlobSettings{.minThreshold = 200, .maxThreshold = 100} << 0;
-    QTest::newRow("last single threshold")
-        << BlobSettings{.minThreshold = 100, .maxThreshold = 110} << 0;
-    QTest::newRow("two thresholds")
-        << BlobSettings{.minThreshold = 100, .maxThreshold = 111, .minCircularity = 0.8} << 1;
-    QTest::newRow("top of the range") << BlobSettings{.minThreshold = 254, .maxThreshold = 2} << 0;
-    QTest::newRow("crossed areas") << BlobSettings{.minArea = 100000, .maxArea = 2} << 0;
-    QTest::newRow("perfect circles only")
-        << BlobSettings{.minCircularity = 1.0, .minInertiaRatio = 1.0} << 0;
-}
+        QTest::newRow("1280 columns") << QSize(1280, 960) << QSize() << 0.5;
+        QTest::newRow("1281 columns") << QSize(1281, 961) << QSize(1280, 960) << 0.5;
+        QTest::newRow("3264 columns") << QSize(3264, 2448) << QSize(1280, 960) << 1.5;
+    }
 
-void tst_BlobAnalysis::everySliderPositionDetects()
-{
-    QFETCH(BlobSettings, settings);
-    const cv::Mat grey = paperWithDisc(320, 240, {160.3, 120.4}, 30.0);
-    QTEST(static_cast<int>(detect(grey, settings).size()), "blobs");
-}
+    void searchesAtMost1280Columns()
+    {
+        QFETCH(QSize, frame);
+        QFETCH(QSize, searched);
+        QFETCH(double, tolerance);
+        const cv::Point2d centre(0.7 * frame.width(), 0.4 * frame.height());
+        const cv::Mat grey = paperWithDisc(frame.width(), frame.height(), centre, 50.0);
 
-void tst_BlobAnalysis::searchesAtMost1280Columns_data()
-{
-    QTest::addColumn<QSize>("frame");
-    QTest::addColumn<QSize>("searched"); // empty: the frame itself
-    QTest::addColumn<double>("tolerance");
+        cv::Mat scaled;
+        const auto detector = createBlobDetector({});
+        const std::vector<cv::KeyPoint> found = detectBlobs(*detector, grey, scaled);
+        QCOMPARE(found.size(), 1U);
+        QCOMPARE_LT(distance(found[0].pt, centre), tolerance);
+        QCOMPARE_LT(std::abs(found[0].size - 100.0F), 4.0F);
+        QCOMPARE(scaled.empty(), searched.isEmpty());
+        if (!searched.isEmpty())
+            QCOMPARE(QSize(scaled.cols, scaled.rows), searched);
+    }
 
-    QTest::newRow("1280 columns") << QSize(1280, 960) << QSize() << 0.5;
-    QTest::newRow("1281 columns") << QSize(1281, 961) << QSize(1280, 960) << 0.5;
-    QTest::newRow("3264 columns") << QSize(3264, 2448) << QSize(1280, 960) << 1.5;
-    QTest::newRow("height plays no part") << QSize(800, 2000) << QSize() << 0.5;
-}
+    void anyFrameSizeIsSearched()
+    {
+        const cv::Size sizes[] = {{1, 1}, {1, 2000}, {1281, 1}, {2561, 1}, {9000, 2}};
+        for (const cv::Size size : sizes)
+            QCOMPARE(detect(paper(size.width, size.height)).size(), 0U);
+    }
 
-void tst_BlobAnalysis::searchesAtMost1280Columns()
-{
-    QFETCH(QSize, frame);
-    QFETCH(QSize, searched);
-    QFETCH(double, tolerance);
-    const cv::Point2d centre(0.7 * frame.width(), 0.4 * frame.height());
-    const cv::Mat grey = paperWithDisc(frame.width(), frame.height(), centre, 50.0);
+    void areasMeanDetectionPixels()
+    {
+        // 7850 px at full resolution, a quarter of that at half the width.
+        BlobSettings settings;
+        settings.minArea = 3000;
+        QCOMPARE(detect(paperWithDisc(1280, 600, {640, 300}, 50.0), settings).size(), 1U);
+        QCOMPARE(detect(paperWithDisc(2560, 600, {640, 300}, 50.0), settings).size(), 0U);
+    }
 
-    cv::Mat scaled;
-    const auto detector = createBlobDetector({});
-    const std::vector<cv::KeyPoint> found = detectBlobs(*detector, grey, scaled);
-    QCOMPARE(found.size(), 1U);
-    QCOMPARE_LT(distance(found[0].pt, centre), tolerance);
-    QCOMPARE_LT(std::abs(found[0].size - 100.0F), 4.0F);
-    QCOMPARE(scaled.empty(), searched.isEmpty());
-    if (!searched.isEmpty())
-        QCOMPARE(QSize(scaled.cols, scaled.rows), searched);
-}
+    void refinesToSubPixel_data()
+    {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<double>("y");
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<double>("noise");
 
-void tst_BlobAnalysis::areasMeanDetectionPixels()
-{
-    // 7850 px at full resolution, a quarter of that at half the width.
-    BlobSettings settings;
-    settings.minArea = 3000;
-    QCOMPARE(detect(paperWithDisc(1280, 600, {640, 300}, 50.0), settings).size(), 1U);
-    QCOMPARE(detect(paperWithDisc(2560, 600, {640, 300}, 50.0), settings).size(), 0U);
-}
-
-void tst_BlobAnalysis::findsOnlyDarkBlobs()
-{
-    cv::Mat grey = paper(640, 480);
-    QCOMPARE(detect(grey).size(), 0U);
-    drawDisc(grey, {200, 240}, 30.0);
-    drawDisc(grey, {450, 240}, 25.0);
-    QCOMPARE(detect(grey).size(), 2U);
-    grey = 255 - grey;
-    QCOMPARE(detect(grey).size(), 0U);
-}
-
-void tst_BlobAnalysis::refinesToSubPixel_data()
-{
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
-    QTest::addColumn<double>("radius");
-    QTest::addColumn<double>("noise");
-
-    for (const double radius : {8.0, 20.0, 45.0}) {
-        for (const double fraction : {0.0, 0.25, 0.5, 0.8}) {
-            QTest::addRow("radius %g, fraction %g", radius, fraction)
-                << 100.0 + fraction << 90.0 - fraction << radius << 0.0;
+        for (const double radius : {8.0, 20.0, 45.0}) {
+            for (const double fraction : {0.0, 0.25, 0.5, 0.8}) {
+                QTest::addRow("radius %g, fraction %g", radius, fraction)
+                    << 100.0 + fraction << 90.0 - fraction << radius << 0.0;
+            }
         }
-    }
-    QTest::newRow("noise of 8 grey levels") << 100.3 << 90.6 << 20.0 << 8.0;
-}
-
-void tst_BlobAnalysis::refinesToSubPixel()
-{
-    QFETCH(double, x);
-    QFETCH(double, y);
-    QFETCH(double, radius);
-    QFETCH(double, noise);
-    const cv::Point2d centre(x, y);
-    cv::Mat grey = paperWithDisc(200, 180, centre, radius);
-    if (noise > 0.0) {
-        cv::Mat grain(grey.size(), CV_16SC1);
-        cv::RNG generator(20240607);
-        generator.fill(grain, cv::RNG::NORMAL, 0.0, noise);
-        cv::add(grey, grain, grey, cv::noArray(), CV_8U);
+        QTest::newRow("noise of 8 grey levels") << 100.3 << 90.6 << 20.0 << 8.0;
     }
 
-    // As coarse as a keypoint from a reduced image.
-    const cv::KeyPoint keypoint(100.9F, 88.9F, static_cast<float>(2.0 * radius));
-    const double error = distance(refineBlobCentre(grey, keypoint), centre);
-    QVERIFY2(error < 0.15, qPrintable(QString::number(error)));
-}
+    void refinesToSubPixel()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        QFETCH(double, radius);
+        QFETCH(double, noise);
+        const cv::Point2d centre(x, y);
+        cv::Mat grey = paperWithDisc(200, 180, centre, radius);
+        if (noise > 0.0) {
+            cv::Mat grain(grey.size(), CV_16SC1);
+            cv::RNG generator(20240607);
+            generator.fill(grain, cv::RNG::NORMAL, 0.0, noise);
+            cv::add(grey, grain, grey, cv::noArray(), CV_8U);
+        }
 
-void tst_BlobAnalysis::refinementReachesAtLeast12Pixels()
-{
-    const cv::Point2d centre(107.4, 100.0);
-    const cv::Mat grey = paperWithDisc(200, 180, centre, 4.0);
-    const cv::KeyPoint keypoint(100.0F, 100.0F, 8.0F);
-    QCOMPARE_LT(distance(refineBlobCentre(grey, keypoint), centre), 0.2);
-}
+        // As coarse as a keypoint from a reduced image.
+        const cv::KeyPoint keypoint(100.9F, 88.9F, static_cast<float>(2.0 * radius));
+        const double error = distance(refineBlobCentre(grey, keypoint), centre);
+        QVERIFY2(error < 0.15, qPrintable(QString::number(error)));
+    }
 
-void tst_BlobAnalysis::refinesDetectedBlob()
-{
-    const cv::Point2d centre(2101.37, 1502.81);
-    const cv::Mat grey = paperWithDisc(3264, 2448, centre, 60.0);
-    const std::vector<cv::KeyPoint> found = detect(grey);
-    QCOMPARE(found.size(), 1U);
-    QCOMPARE_LT(distance(refineBlobCentre(grey, found[0]), centre), 0.05);
-}
+    void refinementAtTheBorder_data()
+    {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<double>("y");
 
-void tst_BlobAnalysis::refinementAtTheBorder_data()
-{
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
+        QTest::newRow("right") << 187.0 << 100.0;
+        QTest::newRow("bottom") << 100.0 << 167.0;
+        QTest::newRow("corner") << 187.0 << 167.0;
+    }
 
-    QTest::newRow("left") << 12.0 << 100.0;
-    QTest::newRow("top") << 100.0 << 12.0;
-    QTest::newRow("right") << 187.0 << 100.0;
-    QTest::newRow("bottom") << 100.0 << 167.0;
-    QTest::newRow("corner") << 187.0 << 167.0;
-}
+    void refinementAtTheBorder()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        // The disc lies inside the image, its window does not.
+        const cv::Mat grey = paperWithDisc(200, 180, {x, y}, 10.0);
+        const cv::KeyPoint keypoint(static_cast<float>(x) + 0.8F, static_cast<float>(y) - 0.6F,
+                                    20.0F);
+        QCOMPARE_LT(distance(refineBlobCentre(grey, keypoint), {x, y}), 0.1);
+    }
 
-void tst_BlobAnalysis::refinementAtTheBorder()
-{
-    QFETCH(double, x);
-    QFETCH(double, y);
-    // The disc lies inside the image, its window does not.
-    const cv::Mat grey = paperWithDisc(200, 180, {x, y}, 10.0);
-    const cv::KeyPoint keypoint(static_cast<float>(x) + 0.8F, static_cast<float>(y) - 0.6F, 20.0F);
-    QCOMPARE_LT(distance(refineBlobCentre(grey, keypoint), {x, y}), 0.1);
-}
+    void refinementPicksNearestOutline()
+    {
+        cv::Mat grey = paperWithDisc(200, 180, {90, 90}, 6.0);
+        drawBlock(grey, {105, 60, 12, 60}); // larger, but further away
+        drawBlock(grey, {99, 89, 2, 2});    // nearest of all, but a speck
+        const cv::KeyPoint keypoint(98.0F, 90.0F, 50.0F);
+        QCOMPARE_LT(distance(refineBlobCentre(grey, keypoint), {90, 90}), 0.1);
+    }
 
-void tst_BlobAnalysis::refinementPicksNearestOutline()
-{
-    cv::Mat grey = paperWithDisc(200, 180, {90, 90}, 6.0);
-    drawBlock(grey, {105, 60, 12, 60}); // larger, but further away
-    drawBlock(grey, {99, 89, 2, 2});    // nearest of all, but a speck
-    const cv::KeyPoint keypoint(98.0F, 90.0F, 50.0F);
-    QCOMPARE_LT(distance(refineBlobCentre(grey, keypoint), {90, 90}), 0.1);
-}
+    void refinementFallsBack_data()
+    {
+        QTest::addColumn<QSize>("frame");
+        QTest::addColumn<QRect>("block");
+        QTest::addColumn<cv::Point2f>("keypoint");
 
-void tst_BlobAnalysis::refinementFallsBack_data()
-{
-    QTest::addColumn<QSize>("frame");
-    QTest::addColumn<QRect>("block");
-    QTest::addColumn<cv::Point2f>("keypoint");
+        QTest::newRow("nothing dark") << QSize(100, 100) << QRect() << cv::Point2f(50.5F, 50.25F);
+        QTest::newRow("only a speck")
+            << QSize(100, 100) << QRect(48, 48, 3, 2) << cv::Point2f(50.5F, 50.25F);
+        QTest::newRow("neighbour in the corner, out of reach")
+            << QSize(100, 100) << QRect(58, 58, 4, 4) << cv::Point2f(50.5F, 50.25F);
+        QTest::newRow("5 columns")
+            << QSize(5, 100) << QRect(0, 45, 5, 5) << cv::Point2f(2.0F, 50.0F);
+        QTest::newRow("5 rows") << QSize(100, 5) << QRect(45, 0, 5, 5) << cv::Point2f(50.0F, 2.0F);
+        QTest::newRow("outside the frame")
+            << QSize(100, 100) << QRect(90, 45, 10, 10) << cv::Point2f(300.0F, 50.0F);
+    }
 
-    QTest::newRow("nothing dark") << QSize(100, 100) << QRect() << cv::Point2f(50.5F, 50.25F);
-    QTest::newRow("only a speck") << QSize(100, 100) << QRect(48, 48, 3, 2)
-                                  << cv::Point2f(50.5F, 50.25F);
-    QTest::newRow("neighbour in the corner, out of reach")
-        << QSize(100, 100) << QRect(58, 58, 4, 4) << cv::Point2f(50.5F, 50.25F);
-    QTest::newRow("5 columns") << QSize(5, 100) << QRect(0, 45, 5, 5) << cv::Point2f(2.0F, 50.0F);
-    QTest::newRow("5 rows") << QSize(100, 5) << QRect(45, 0, 5, 5) << cv::Point2f(50.0F, 2.0F);
-    QTest::newRow("outside the frame")
-        << QSize(100, 100) << QRect(90, 45, 10, 10) << cv::Point2f(300.0F, 50.0F);
-    QTest::newRow("no frame") << QSize(0, 0) << QRect() << cv::Point2f(10.0F, 10.0F);
-}
+    void refinementFallsBack()
+    {
+        QFETCH(QSize, frame);
+        QFETCH(QRect, block);
+        QFETCH(cv::Point2f, keypoint);
+        cv::Mat grey = frame.isEmpty() ? cv::Mat() : paper(frame.width(), frame.height());
+        if (!block.isEmpty())
+            drawBlock(grey, {block.x(), block.y(), block.width(), block.height()});
+        const cv::Point2d refined = refineBlobCentre(grey, cv::KeyPoint(keypoint, 10.0F));
+        QCOMPARE(refined, cv::Point2d(keypoint));
+    }
 
-void tst_BlobAnalysis::refinementFallsBack()
-{
-    QFETCH(QSize, frame);
-    QFETCH(QRect, block);
-    QFETCH(cv::Point2f, keypoint);
-    cv::Mat grey = frame.isEmpty() ? cv::Mat() : paper(frame.width(), frame.height());
-    if (!block.isEmpty())
-        drawBlock(grey, {block.x(), block.y(), block.width(), block.height()});
-    const cv::Point2d refined = refineBlobCentre(grey, cv::KeyPoint(keypoint, 10.0F));
-    QCOMPARE(refined, cv::Point2d(keypoint));
-}
+    void blobMark()
+    {
+        cv::Mat bgr(100, 100, CV_8UC3, cv::Scalar::all(0));
+        // Centre rounds to (51, 50), radius 0.55 * 30 = 16.5 to 17.
+        drawBlobMark(bgr, cv::KeyPoint(50.5F, 50.4F, 30.0F), {0, 255, 0});
+        const cv::Vec3b green(0, 255, 0);
+        QCOMPARE(pixel(bgr, 51 + 17, 50), green);
+        QCOMPARE(pixel(bgr, 51 - 17, 50), green);
+        QCOMPARE(pixel(bgr, 51, 50 + 17), green);
+        QCOMPARE(pixel(bgr, 51, 50), cv::Vec3b(0, 0, 0));
+        QCOMPARE(pixel(bgr, 51 + 20, 50), cv::Vec3b(0, 0, 0));
+    }
 
-void tst_BlobAnalysis::blobMark()
-{
-    cv::Mat bgr(100, 100, CV_8UC3, cv::Scalar::all(0));
-    // Centre rounds to (51, 50), radius 0.55 * 30 = 16.5 to 17.
-    drawBlobMark(bgr, cv::KeyPoint(50.5F, 50.4F, 30.0F), {0, 255, 0});
-    const cv::Vec3b green(0, 255, 0);
-    QCOMPARE(pixel(bgr, 51 + 17, 50), green);
-    QCOMPARE(pixel(bgr, 51 - 17, 50), green);
-    QCOMPARE(pixel(bgr, 51, 50 + 17), green);
-    QCOMPARE(pixel(bgr, 51, 50), cv::Vec3b(0, 0, 0));
-    QCOMPARE(pixel(bgr, 51 + 20, 50), cv::Vec3b(0, 0, 0));
-}
+    void calibrationResult()
+    {
+        cv::Mat bgr(200, 200, CV_8UC3, cv::Scalar::all(0));
+        drawCalibrationResult(bgr, {99.6, 100.4}, std::vector<QPointF>{{30, 40}, {170, 150}});
+        const cv::Vec3b magenta(255, 0, 255);
+        const cv::Vec3b orange(0, 165, 255);
+        for (const cv::Point offset : {cv::Point(0, 0), {23, 0}, {-23, 0}, {0, 23}, {0, -23}})
+            QCOMPARE(pixel(bgr, 100 + offset.x, 100 + offset.y), magenta);
+        // On the ring of the centre, off the crosshair.
+        QCOMPARE(pixel(bgr, 100 + 11, 100 + 11), magenta);
+        QCOMPARE(pixel(bgr, 38, 40), orange);
+        QCOMPARE(pixel(bgr, 170, 142), orange);
+        QCOMPARE(pixel(bgr, 30, 40), cv::Vec3b(0, 0, 0));
+    }
 
-void tst_BlobAnalysis::calibrationResult()
-{
-    cv::Mat bgr(200, 200, CV_8UC3, cv::Scalar::all(0));
-    drawCalibrationResult(bgr, {99.6, 100.4}, std::vector<QPointF>{{30, 40}, {170, 150}});
-    const cv::Vec3b magenta(255, 0, 255);
-    const cv::Vec3b orange(0, 165, 255);
-    for (const cv::Point offset : {cv::Point(0, 0), {23, 0}, {-23, 0}, {0, 23}, {0, -23}})
-        QCOMPARE(pixel(bgr, 100 + offset.x, 100 + offset.y), magenta);
-    // On the ring of the centre, off the crosshair.
-    QCOMPARE(pixel(bgr, 100 + 11, 100 + 11), magenta);
-    QCOMPARE(pixel(bgr, 38, 40), orange);
-    QCOMPARE(pixel(bgr, 170, 142), orange);
-    QCOMPARE(pixel(bgr, 30, 40), cv::Vec3b(0, 0, 0));
-}
+    void calibrationResultOutside_data()
+    {
+        QTest::addColumn<QPointF>("centre");
+        QTest::newRow("a nearly straight path") << QPointF(-4.2e12, 9.7e15);
+        QTest::newRow("infinite") << QPointF(qInf(), -qInf());
+        QTest::newRow("not a number") << QPointF(qQNaN(), 50);
+    }
 
-void tst_BlobAnalysis::calibrationResultOutside_data()
-{
-    QTest::addColumn<QPointF>("centre");
-    QTest::newRow("next to the frame") << QPointF(-40, 100);
-    QTest::newRow("a nearly straight path") << QPointF(-4.2e12, 9.7e15);
-    QTest::newRow("infinite") << QPointF(qInf(), -qInf());
-    QTest::newRow("not a number") << QPointF(qQNaN(), 50);
-}
-
-void tst_BlobAnalysis::calibrationResultOutside()
-{
-    QFETCH(QPointF, centre);
-    cv::Mat bgr(100, 100, CV_8UC3, cv::Scalar::all(0));
-    drawCalibrationResult(bgr, centre, {});
-    QCOMPARE(cv::norm(bgr), 0.0);
-}
+    void calibrationResultOutside()
+    {
+        QFETCH(QPointF, centre);
+        cv::Mat bgr(100, 100, CV_8UC3, cv::Scalar::all(0));
+        drawCalibrationResult(bgr, centre, {});
+        QCOMPARE(cv::norm(bgr), 0.0);
+    }
+};
 
 QTEST_APPLESS_MAIN(tst_BlobAnalysis)
 #include "tst_blobanalysis.moc"

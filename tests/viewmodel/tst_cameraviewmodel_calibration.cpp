@@ -12,203 +12,162 @@ class TestCameraViewModelCalibration : public QObject
 
 private slots:
     void initTestCase() { fixture::prepareProcess(); }
-    void init();
-    void startClearsTheLastResult();
-    void measurementsAndProgress();
-    void guideState();
-    void fitRating();
-    void acceptedCentre();
-    void discardedCentre();
-    void manualCentreEndsValidity();
-    void lock();
-    void stopOfTheCameraEndsTheProcedure();
+
+    void init()
+    {
+        QTest::failOnWarning();
+        m_viewModel.reset();
+        m_viewModel = fixture::firstStart();
+    }
+
+    void startClearsTheLastResult()
+    {
+        QCOMPARE(m_viewModel->totalGuidePositions(), 4);
+        emit controller().blobMeasurementCaptured(QPointF(1, 2), 0);
+        complete(QPointF(100, 50));
+        emit controller().measureProgressChanged(1, 3);
+        m_viewModel->setCalibrationPositions(5);
+
+        QSignalSpy active(m_viewModel.get(), &CameraViewModel::calibrationActiveChanged);
+        m_viewModel->startCalibration();
+        QVERIFY(m_viewModel->calibrationActive());
+        QCOMPARE(active.size(), 1);
+        QVERIFY(m_viewModel->measurements().isEmpty());
+        QVERIFY(!m_viewModel->hasPendingCenter());
+        QVERIFY(!m_viewModel->fitResultValid());
+        QCOMPARE(m_viewModel->fitRadius(), 0.0);
+        QCOMPARE(m_viewModel->fitStdDev(), 0.0);
+        QVERIFY(!m_viewModel->measureInProgress());
+        QTRY_COMPARE(m_viewModel->totalGuidePositions(), 5);
+        QCOMPARE(m_viewModel->currentGuideIndex(), 0);
+
+        emit controller().runningChanged(false);
+        QVERIFY2(!m_viewModel->calibrationActive(), "the camera stopped");
+    }
+
+    void measurementsAndProgress()
+    {
+        QSignalSpy progress(m_viewModel.get(), &CameraViewModel::measureProgressChanged);
+        QCOMPARE(m_viewModel->measureProgressRatio(), 0.0);
+        emit controller().measureProgressChanged(1, 4);
+        emit controller().measureProgressChanged(1, 4);
+        QCOMPARE(progress.size(), 1);
+        QVERIFY(m_viewModel->measureInProgress());
+        QCOMPARE(m_viewModel->measureProgressRatio(), 0.25);
+        emit controller().measureProgressChanged(0, 0);
+        QVERIFY(!m_viewModel->measureInProgress());
+
+        emit controller().blobMeasurementCaptured(QPointF(10.5, 20.25), 0);
+        emit controller().blobMeasurementCaptured(QPointF(30, 40), 1);
+        const QVariantList expected{QVariantMap{{"step", 1}, {"x", 10.5}, {"y", 20.25}},
+                                    QVariantMap{{"step", 2}, {"x", 30.0}, {"y", 40.0}}};
+        QCOMPARE(m_viewModel->measurements(), expected);
+        m_viewModel->cancelCalibration();
+        QCOMPARE(m_viewModel->measurements(), expected);
+    }
+
+    void fitRating()
+    {
+        complete(QPointF(100, 50));
+        QVERIFY(m_viewModel->qualityAssessable());
+        QCOMPARE(m_viewModel->qualityLevel(), 0);
+        QCOMPARE(m_viewModel->fitRadius(), 120.5);
+        QCOMPARE(m_viewModel->fitStdDev(), 0.3);
+        QCOMPARE(m_viewModel->dominantOrder(), 3);
+        QCOMPARE(m_viewModel->dominantAmp(), 0.7);
+
+        emit controller().calibrationQualityDetails(0.1, 220.0, 0, 0.0);
+        QVERIFY(m_viewModel->coveragePoor());
+        QCOMPARE(m_viewModel->qualityLevel(), 2);
+        emit controller().calibrationFitDetails(3, 120.5, 0.0);
+        QVERIFY(!m_viewModel->qualityAssessable());
+        QCOMPARE(m_viewModel->qualityLevel(), 3);
+    }
+
+    void acceptedCentre()
+    {
+        m_viewModel->setOffsetX(7.0);
+        m_viewModel->setOffsetEnabled(true);
+        m_viewModel->acceptPendingCenter();
+        QVERIFY2(!m_viewModel->calibrated(), "nothing was pending");
+        QCOMPARE(m_viewModel->offsetX(), 7.0);
+
+        complete(QPointF(9, 9));
+        m_viewModel->discardPendingCenter();
+        QVERIFY2(m_viewModel->fitResultValid(), "the figures stay on show");
+        m_viewModel->acceptPendingCenter();
+        QVERIFY2(!m_viewModel->calibrated(), "it was discarded");
+
+        m_viewModel->startCalibration();
+        complete(QPointF(801.25, 602.5));
+        QVERIFY(!m_viewModel->calibrationActive());
+        QVERIFY(m_viewModel->hasPendingCenter());
+        QCOMPARE(m_viewModel->pendingCenterX(), 801.25);
+        QCOMPARE(m_viewModel->pendingCenterY(), 602.5);
+        QVERIFY(!m_viewModel->calibrated());
+
+        QSignalSpy overlay(m_viewModel.get(), &CameraViewModel::overlaySettingsChanged);
+        QSignalSpy calibrated(m_viewModel.get(), &CameraViewModel::calibratedChanged);
+        QSignalSpy lock(m_viewModel.get(), &CameraViewModel::lockStateChanged);
+        m_viewModel->acceptPendingCenter();
+        QCOMPARE(overlay.size(), 1);
+        QCOMPARE(calibrated.size(), 1);
+        QCOMPARE(lock.size(), 1);
+        QVERIFY(!m_viewModel->hasPendingCenter());
+        QVERIFY(m_viewModel->calibrated());
+        QVERIFY(m_viewModel->locked());
+        QCOMPARE(m_viewModel->centerX(), 801.25);
+        QCOMPARE(m_viewModel->centerY(), 602.5);
+        QCOMPARE(m_viewModel->offsetX(), 0.0);
+        QVERIFY(!m_viewModel->offsetEnabled());
+        QTRY_VERIFY(loadSettings().camera.calibrated);
+        QVERIFY(loadSettings().camera.locked);
+    }
+
+    void manualCentreEndsValidity()
+    {
+        complete(QPointF(800, 600));
+        m_viewModel->acceptPendingCenter();
+        m_viewModel->setCenterX(800);
+        m_viewModel->setCenterY(600);
+        QVERIFY(m_viewModel->calibrated());
+
+        QSignalSpy calibrated(m_viewModel.get(), &CameraViewModel::calibratedChanged);
+        m_viewModel->setCenterY(600.0000001);
+        m_viewModel->setCenterX(801);
+        QVERIFY(!m_viewModel->calibrated());
+        QCOMPARE(calibrated.size(), 1);
+        QVERIFY2(m_viewModel->locked(), "the lock is another matter");
+    }
+
+    void lock()
+    {
+        QSignalSpy lock(m_viewModel.get(), &CameraViewModel::lockStateChanged);
+        m_viewModel->unlockCalibration();
+        QCOMPARE(lock.size(), 0);
+        m_viewModel->lockCalibration();
+        m_viewModel->lockCalibration();
+        QCOMPARE(lock.size(), 1);
+        QVERIFY(m_viewModel->locked());
+        QVERIFY(!m_viewModel->calibrated());
+        QTRY_VERIFY(loadSettings().camera.locked);
+        m_viewModel->unlockCalibration();
+        QVERIFY(!m_viewModel->locked());
+    }
 
 private:
     CameraController &controller() { return *m_viewModel->controller(); }
-    void complete(const QPointF &center);
+
+    /// What the controller reports after the last position.
+    void complete(const QPointF &center)
+    {
+        emit controller().calibrationFitDetails(8, 120.5, 0.3);
+        emit controller().calibrationQualityDetails(0.1, 45.0, 3, 0.7);
+        emit controller().calibrationCompleted(center);
+    }
 
     fixture::ViewModel m_viewModel;
 };
-
-void TestCameraViewModelCalibration::init()
-{
-    QTest::failOnWarning();
-    m_viewModel.reset();
-    m_viewModel = fixture::firstStart();
-}
-
-/// What the controller reports after the last position.
-void TestCameraViewModelCalibration::complete(const QPointF &center)
-{
-    emit controller().calibrationFitDetails(8, 120.5, 0.3);
-    emit controller().calibrationQualityDetails(0.1, 45.0, 3, 0.7);
-    emit controller().calibrationCompleted(center);
-}
-
-void TestCameraViewModelCalibration::startClearsTheLastResult()
-{
-    QCOMPARE(m_viewModel->totalGuidePositions(), 4);
-    emit controller().blobMeasurementCaptured(QPointF(1, 2), 0);
-    complete(QPointF(100, 50));
-    emit controller().measureProgressChanged(1, 3);
-    m_viewModel->setCalibrationPositions(5);
-
-    QSignalSpy active(m_viewModel.get(), &CameraViewModel::calibrationActiveChanged);
-    m_viewModel->startCalibration();
-    QVERIFY(m_viewModel->calibrationActive());
-    QCOMPARE(active.size(), 1);
-    QVERIFY(m_viewModel->measurements().isEmpty());
-    QVERIFY(!m_viewModel->hasPendingCenter());
-    QVERIFY(!m_viewModel->fitResultValid());
-    QCOMPARE(m_viewModel->fitRadius(), 0.0);
-    QCOMPARE(m_viewModel->fitStdDev(), 0.0);
-    QVERIFY(!m_viewModel->measureInProgress());
-    QTRY_COMPARE(m_viewModel->totalGuidePositions(), 5);
-    QCOMPARE(m_viewModel->currentGuideIndex(), 0);
-
-    m_viewModel->cancelCalibration();
-    QVERIFY(!m_viewModel->calibrationActive());
-}
-
-void TestCameraViewModelCalibration::measurementsAndProgress()
-{
-    QSignalSpy progress(m_viewModel.get(), &CameraViewModel::measureProgressChanged);
-    QCOMPARE(m_viewModel->measureProgressRatio(), 0.0);
-    emit controller().measureProgressChanged(1, 4);
-    emit controller().measureProgressChanged(1, 4);
-    QCOMPARE(progress.size(), 1);
-    QVERIFY(m_viewModel->measureInProgress());
-    QCOMPARE(m_viewModel->measureProgressRatio(), 0.25);
-    emit controller().measureProgressChanged(0, 0);
-    QVERIFY(!m_viewModel->measureInProgress());
-
-    emit controller().blobMeasurementCaptured(QPointF(10.5, 20.25), 0);
-    emit controller().blobMeasurementCaptured(QPointF(30, 40), 1);
-    const QVariantList expected{QVariantMap{{"step", 1}, {"x", 10.5}, {"y", 20.25}},
-                                QVariantMap{{"step", 2}, {"x", 30.0}, {"y", 40.0}}};
-    QCOMPARE(m_viewModel->measurements(), expected);
-    m_viewModel->cancelCalibration();
-    QCOMPARE(m_viewModel->measurements(), expected);
-}
-
-void TestCameraViewModelCalibration::guideState()
-{
-    QSignalSpy guide(m_viewModel.get(), &CameraViewModel::guideStateChanged);
-    emit controller().guideIndexChanged(3, 9);
-    emit controller().blobInSectorChanged(true);
-    emit controller().blobSectorAlignmentChanged(0.75);
-    emit controller().blobsDetected(2);
-    QCOMPARE(guide.size(), 3);
-    QCOMPARE(m_viewModel->currentGuideIndex(), 3);
-    QCOMPARE(m_viewModel->totalGuidePositions(), 9);
-    QVERIFY(m_viewModel->blobInSector());
-    QCOMPARE(m_viewModel->blobSectorAlignment(), 0.75);
-    QCOMPARE(m_viewModel->blobCount(), 2);
-}
-
-void TestCameraViewModelCalibration::fitRating()
-{
-    complete(QPointF(100, 50));
-    QVERIFY(m_viewModel->fitResultValid());
-    QVERIFY(m_viewModel->qualityAssessable());
-    QVERIFY(!m_viewModel->coveragePoor());
-    QCOMPARE(m_viewModel->qualityLevel(), 0);
-    QCOMPARE(m_viewModel->fitPointCount(), 8);
-    QCOMPARE(m_viewModel->fitRadius(), 120.5);
-    QCOMPARE(m_viewModel->fitStdDev(), 0.3);
-    QCOMPARE(m_viewModel->dominantOrder(), 3);
-    QCOMPARE(m_viewModel->dominantAmp(), 0.7);
-
-    emit controller().calibrationQualityDetails(0.1, 220.0, 0, 0.0);
-    QVERIFY(m_viewModel->coveragePoor());
-    QCOMPARE(m_viewModel->qualityLevel(), 2);
-    emit controller().calibrationFitDetails(3, 120.5, 0.0);
-    QVERIFY(!m_viewModel->qualityAssessable());
-    QCOMPARE(m_viewModel->qualityLevel(), 3);
-}
-
-void TestCameraViewModelCalibration::acceptedCentre()
-{
-    m_viewModel->setOffsetX(7.0);
-    m_viewModel->setOffsetEnabled(true);
-    m_viewModel->acceptPendingCenter();
-    QVERIFY2(!m_viewModel->calibrated(), "nothing was pending");
-    QCOMPARE(m_viewModel->offsetX(), 7.0);
-
-    m_viewModel->startCalibration();
-    complete(QPointF(801.25, 602.5));
-    QVERIFY(!m_viewModel->calibrationActive());
-    QVERIFY(m_viewModel->hasPendingCenter());
-    QCOMPARE(m_viewModel->pendingCenterX(), 801.25);
-    QCOMPARE(m_viewModel->pendingCenterY(), 602.5);
-    QVERIFY(!m_viewModel->calibrated());
-
-    QSignalSpy overlay(m_viewModel.get(), &CameraViewModel::overlaySettingsChanged);
-    QSignalSpy calibrated(m_viewModel.get(), &CameraViewModel::calibratedChanged);
-    QSignalSpy lock(m_viewModel.get(), &CameraViewModel::lockStateChanged);
-    m_viewModel->acceptPendingCenter();
-    QCOMPARE(overlay.size(), 1);
-    QCOMPARE(calibrated.size(), 1);
-    QCOMPARE(lock.size(), 1);
-    QVERIFY(!m_viewModel->hasPendingCenter());
-    QVERIFY(m_viewModel->calibrated());
-    QVERIFY(m_viewModel->locked());
-    QCOMPARE(m_viewModel->centerX(), 801.25);
-    QCOMPARE(m_viewModel->centerY(), 602.5);
-    QCOMPARE(m_viewModel->offsetX(), 0.0);
-    QVERIFY(!m_viewModel->offsetEnabled());
-    QTRY_VERIFY(loadSettings().camera.calibrated);
-    QVERIFY(loadSettings().camera.locked);
-}
-
-void TestCameraViewModelCalibration::discardedCentre()
-{
-    const double centerX = m_viewModel->centerX();
-    complete(QPointF(801.25, 602.5));
-    m_viewModel->discardPendingCenter();
-    QVERIFY(!m_viewModel->hasPendingCenter());
-    QVERIFY2(m_viewModel->fitResultValid(), "the figures stay on show");
-    m_viewModel->acceptPendingCenter();
-    QCOMPARE(m_viewModel->centerX(), centerX);
-}
-
-void TestCameraViewModelCalibration::manualCentreEndsValidity()
-{
-    complete(QPointF(800, 600));
-    m_viewModel->acceptPendingCenter();
-    m_viewModel->setCenterX(800);
-    m_viewModel->setCenterY(600);
-    QVERIFY(m_viewModel->calibrated());
-
-    QSignalSpy calibrated(m_viewModel.get(), &CameraViewModel::calibratedChanged);
-    m_viewModel->setCenterY(600.0000001);
-    m_viewModel->setCenterX(801);
-    QVERIFY(!m_viewModel->calibrated());
-    QCOMPARE(calibrated.size(), 1);
-    QVERIFY2(m_viewModel->locked(), "the lock is another matter");
-}
-
-void TestCameraViewModelCalibration::lock()
-{
-    QSignalSpy lock(m_viewModel.get(), &CameraViewModel::lockStateChanged);
-    m_viewModel->unlockCalibration();
-    QCOMPARE(lock.size(), 0);
-    m_viewModel->lockCalibration();
-    m_viewModel->lockCalibration();
-    QCOMPARE(lock.size(), 1);
-    QVERIFY(m_viewModel->locked());
-    QVERIFY(!m_viewModel->calibrated());
-    QTRY_VERIFY(loadSettings().camera.locked);
-    m_viewModel->unlockCalibration();
-    QVERIFY(!m_viewModel->locked());
-}
-
-void TestCameraViewModelCalibration::stopOfTheCameraEndsTheProcedure()
-{
-    m_viewModel->startCalibration();
-    emit controller().runningChanged(false);
-    QVERIFY(!m_viewModel->calibrationActive());
-}
 
 QTEST_MAIN(TestCameraViewModelCalibration)
 #include "tst_cameraviewmodel_calibration.moc"

@@ -2,32 +2,12 @@
 
 #include "viewmodel/LanguageSwitch.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <QRect>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
 
 using namespace meridax;
-
-/// Settings of the application itself that are more than a stored value.
-class TestCameraViewModelSettings : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase() { fixture::prepareProcess(); }
-    void init();
-    void geometryIsWrittenAtOnce();
-    void smallGeometryOnlyTellsMaximized();
-    void sections();
-    void forgottenSections();
-    void languageReplacesTheStartupTranslator();
-    void clipboard();
-
-private:
-    fixture::ViewModel m_viewModel;
-};
 
 namespace {
 
@@ -44,93 +24,92 @@ public:
 
 } // namespace
 
-void TestCameraViewModelSettings::init()
+/// Settings of the application itself that are more than a stored value.
+class TestCameraViewModelSettings : public QObject
 {
-    QTest::failOnWarning();
-    m_viewModel.reset();
-    m_viewModel = fixture::firstStart();
-}
+    Q_OBJECT
 
-void TestCameraViewModelSettings::geometryIsWrittenAtOnce()
-{
-    QSignalSpy notified(m_viewModel.get(), &CameraViewModel::appSettingsChanged);
-    m_viewModel->saveWindowGeometry(-20, 30, 1400, 400, true);
-    QCOMPARE(notified.size(), 0);
-    const AppSettings stored = loadSettings();
-    QCOMPARE(stored.windowX, -20);
-    QCOMPARE(stored.windowY, 30);
-    QCOMPARE(stored.windowWidth, 1400);
-    QCOMPARE(stored.windowHeight, 400);
-    QVERIFY(stored.windowMaximized);
-    QCOMPARE(m_viewModel->savedWindowX(), -20);
-    QCOMPARE(m_viewModel->savedWindowHeight(), 400);
+private slots:
+    void initTestCase() { fixture::prepareProcess(); }
 
-    QVERIFY(QFile::remove(settingsFilePath()));
-    m_viewModel->saveWindowGeometry(-20, 30, 1400, 400, true);
-    QVERIFY2(!fixture::fileExists(), "nothing changed");
-    m_viewModel->saveWindowGeometry(-20, 31, 1400, 400, true);
-    QVERIFY(fixture::fileExists());
-}
+    void init()
+    {
+        QTest::failOnWarning();
+        m_viewModel.reset();
+        m_viewModel = fixture::firstStart();
+    }
 
-void TestCameraViewModelSettings::smallGeometryOnlyTellsMaximized()
-{
-    m_viewModel->saveWindowGeometry(1, 2, 399, 900, false);
-    QVERIFY(!fixture::fileExists());
-    m_viewModel->saveWindowGeometry(1, 2, 900, 399, true);
-    QVERIFY(loadSettings().windowMaximized);
-    QCOMPARE(loadSettings().windowWidth, 0);
-    QCOMPARE(loadSettings().windowX, 0);
-}
+    void geometryIsWrittenAtOnce()
+    {
+        QSignalSpy notified(m_viewModel.get(), &CameraViewModel::appSettingsChanged);
+        m_viewModel->saveWindowGeometry(1, 2, 399, 900, false);
+        QVERIFY2(!fixture::fileExists(), "too small to be a normal window");
+        m_viewModel->saveWindowGeometry(1, 2, 900, 399, true);
+        QVERIFY(loadSettings().windowMaximized);
+        QCOMPARE(loadSettings().windowWidth, 0);
 
-void TestCameraViewModelSettings::sections()
-{
-    QVERIFY(m_viewModel->sectionCollapsed("blob", true));
-    QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
-    // The first choice counts even where it is the default.
-    m_viewModel->setSectionCollapsed("blob", true);
-    QVERIFY(m_viewModel->sectionCollapsed("blob", false));
-    m_viewModel->setSectionCollapsed("", false);
-    QVERIFY(!m_viewModel->sectionCollapsed("", true));
-    QTRY_VERIFY(fixture::fileExists());
-    QCOMPARE(loadSettings().collapsedSections, (QVariantMap{{"blob", true}, {"", false}}));
-}
+        m_viewModel->saveWindowGeometry(-20, 30, 1400, 400, true);
+        QCOMPARE(notified.size(), 0);
+        const AppSettings stored = loadSettings();
+        const QRect geometry(stored.windowX, stored.windowY, stored.windowWidth,
+                             stored.windowHeight);
+        QCOMPARE(geometry, QRect(-20, 30, 1400, 400));
+        QVERIFY(stored.windowMaximized);
 
-void TestCameraViewModelSettings::forgottenSections()
-{
-    m_viewModel->setSectionCollapsed("blob", true);
-    m_viewModel->setRememberCollapsedSections(false);
-    QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
-    QTRY_VERIFY(fixture::fileExists());
-    QVERIFY(loadSettings().collapsedSections.isEmpty());
+        QVERIFY(QFile::remove(settingsFilePath()));
+        m_viewModel->saveWindowGeometry(-20, 30, 1400, 400, true);
+        QVERIFY2(!fixture::fileExists(), "nothing changed");
+        m_viewModel->saveWindowGeometry(-20, 31, 1400, 400, true);
+        QVERIFY(fixture::fileExists());
+    }
 
-    // Still kept while the program runs, but no reason to write the file.
-    m_viewModel->setSectionCollapsed("blob", true);
-    QVERIFY(m_viewModel->sectionCollapsed("blob", false));
-}
+    void sections()
+    {
+        QVERIFY(m_viewModel->sectionCollapsed("blob", true));
+        QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
+        // The first choice counts even where it is the default.
+        m_viewModel->setSectionCollapsed("blob", true);
+        QVERIFY(m_viewModel->sectionCollapsed("blob", false));
+        m_viewModel->setSectionCollapsed("", false);
+        QVERIFY(!m_viewModel->sectionCollapsed("", true));
+        QTRY_VERIFY(fixture::fileExists());
+        QCOMPARE(loadSettings().collapsedSections, (QVariantMap{{"blob", true}, {"", false}}));
+    }
 
-void TestCameraViewModelSettings::languageReplacesTheStartupTranslator()
-{
-    QuestionMarks startup;
-    QVERIFY(QCoreApplication::installTranslator(&startup));
-    setStartupTranslator(&startup);
-    QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "?");
+    void forgottenSections()
+    {
+        m_viewModel->setSectionCollapsed("blob", true);
+        m_viewModel->setRememberCollapsedSections(false);
+        QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
+        QTRY_VERIFY(fixture::fileExists());
+        QVERIFY(loadSettings().collapsedSections.isEmpty());
 
-    m_viewModel->setLanguage("de");
-    QVERIFY2(startupTranslator(), "the language was German already");
-    QSignalSpy notified(m_viewModel.get(), &CameraViewModel::appSettingsChanged);
-    m_viewModel->setLanguage("../no such catalogue");
-    QCOMPARE(notified.size(), 1);
-    QVERIFY(!startupTranslator());
-    QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
-    m_viewModel->setLanguage("de");
-    QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
-}
+        // Still kept while the program runs, but no reason to write the file.
+        m_viewModel->setSectionCollapsed("blob", true);
+        QVERIFY(m_viewModel->sectionCollapsed("blob", false));
+    }
 
-void TestCameraViewModelSettings::clipboard()
-{
-    m_viewModel->copyToClipboard("Größe");
-    QCOMPARE(QGuiApplication::clipboard()->text(), "Größe");
-}
+    void languageReplacesTheStartupTranslator()
+    {
+        QuestionMarks startup;
+        QVERIFY(QCoreApplication::installTranslator(&startup));
+        setStartupTranslator(&startup);
+        QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "?");
+
+        m_viewModel->setLanguage("de");
+        QVERIFY2(startupTranslator(), "the language was German already");
+        QSignalSpy notified(m_viewModel.get(), &CameraViewModel::appSettingsChanged);
+        m_viewModel->setLanguage("../no such catalogue");
+        QCOMPARE(notified.size(), 1);
+        QVERIFY(!startupTranslator());
+        QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
+        m_viewModel->setLanguage("de");
+        QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
+    }
+
+private:
+    fixture::ViewModel m_viewModel;
+};
 
 QTEST_MAIN(TestCameraViewModelSettings)
 #include "tst_cameraviewmodel_settings.moc"

@@ -1,3 +1,4 @@
+#include "SignalRecorder.h"
 #include "ViewModelFixture.h"
 
 #include <QMediaDevices>
@@ -16,193 +17,175 @@ class TestCameraViewModelStream : public QObject
 
 private slots:
     void initTestCase() { fixture::prepareProcess(); }
-    void init();
-    void listsTheCamera();
-    void resolutionChangeDropsTheCalibration();
-    void anotherCameraResetsTheValues();
-    void choiceBetweenTwoCameras();
-    void streams();
-    void unplugging();
+
+    void init()
+    {
+        // A test that failed may have left it unplugged.
+        if (QMediaDevices::videoInputs().isEmpty())
+            simcam({QStringLiteral("plug")});
+        QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
+    }
+
+    void listsTheCamera()
+    {
+        AppSettings settings;
+        settings.camera.cameraResolutionX = 1270;
+        settings.camera.cameraResolutionY = 730;
+        settings.camera.gain = 11;
+        auto viewModel = fixture::startWith(settings);
+        const QCameraDevice device = QMediaDevices::videoInputs().constFirst();
+        QCOMPARE(viewModel->cameraNames(), QStringList{device.description()});
+        QCOMPARE(viewModel->selectedCameraName(), device.description());
+        QVERIFY(viewModel->resolutionOptions().size() > 1);
+        QVERIFY(viewModel->resolutionOptions()
+                    .at(viewModel->selectedResolutionIndex())
+                    .startsWith("1280 x 720  @ "));
+        QCOMPARE(viewModel->resolutionX(), 1280);
+        QCOMPARE(viewModel->centerX(), 640.0);
+        QCOMPARE(viewModel->centerY(), 360.0);
+        QVERIFY(!viewModel->offsetEnabled());
+        QVERIFY(viewModel->resolutionMinX() < viewModel->resolutionMaxX());
+        viewModel.reset();
+        QCOMPARE(loadSettings().camera.cameraId, QString::fromLatin1(device.id()));
+    }
+
+    void resolutionChangeDropsTheCalibration()
+    {
+        const auto viewModel = fixture::firstStart();
+        emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
+        viewModel->acceptPendingCenter();
+        viewModel->setOffsetX(3);
+
+        viewModel->setSelectedResolutionIndex(viewModel->selectedResolutionIndex());
+        QVERIFY2(viewModel->calibrated(), "the same resolution");
+        QCOMPARE(viewModel->centerX(), 10.0);
+        viewModel->setSelectedResolutionIndex(-1);
+        viewModel->setSelectedResolutionIndex(int(viewModel->resolutionOptions().size()));
+        QVERIFY(viewModel->calibrated());
+
+        viewModel->setSelectedResolutionIndex(0);
+        QCOMPARE(viewModel->selectedResolutionIndex(), 0);
+        QVERIFY(!viewModel->calibrated());
+        QVERIFY(!viewModel->locked());
+        QCOMPARE(viewModel->centerX(), viewModel->resolutionX() * 0.5);
+        QCOMPARE(viewModel->centerY(), viewModel->resolutionY() * 0.5);
+        QCOMPARE(viewModel->offsetX(), 0.0);
+        QTRY_COMPARE(loadSettings().camera.cameraResolutionX, viewModel->resolutionX());
+    }
+
+    /// The stored camera has another id, so the present one starts from the defaults.
+    void anotherCameraResetsTheValues()
+    {
+        AppSettings settings;
+        settings.camera.cameraId = QStringLiteral("gone");
+        settings.camera.cameraName = QMediaDevices::videoInputs().constFirst().description();
+        settings.camera.focusValue = 7;
+        settings.camera.captureTimeMs = 3;
+        settings.camera.contrast = 70;
+        settings.camera.saturation = 80;
+        settings.camera.locked = true;
+        const auto viewModel = fixture::startWith(settings);
+        QCOMPARE(viewModel->focusValue(), 0);
+        QCOMPARE(viewModel->exposure(), 0);
+        QCOMPARE(viewModel->contrast(), 50);
+        QCOMPARE(viewModel->saturation(), 50);
+        QVERIFY(!viewModel->locked());
+    }
+
+    void choiceBetweenTwoCameras()
+    {
+        const auto viewModel = fixture::firstStart();
+        const QString first = viewModel->selectedCameraName();
+        simcam({"plug", "--new", "--node", "video40", "--name", "Zweite"});
+        auto unplugSecond = qScopeGuard([] { simcam({"unplug", "--node", "video40"}); });
+        QTRY_COMPARE(viewModel->cameraNames().size(), 2);
+        QCOMPARE(viewModel->selectedCameraName(), first);
+
+        viewModel->setBrightness(30);
+        viewModel->setGain(5);
+        emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
+        viewModel->acceptPendingCenter();
+        const int second = int(viewModel->cameraNames().indexOf("Zweite"));
+        viewModel->setSelectedCameraIndex(2);
+        QCOMPARE(viewModel->brightness(), 30);
+        QSignalSpy list(viewModel.get(), &CameraViewModel::cameraListChanged);
+        viewModel->setSelectedCameraIndex(second);
+        QCOMPARE(list.size(), 1);
+        QCOMPARE(viewModel->selectedCameraName(), "Zweite");
+        QCOMPARE(viewModel->brightness(), 0);
+        QCOMPARE(viewModel->gain(), 5);
+        QVERIFY(!viewModel->calibrated());
+        QVERIFY(!viewModel->locked());
+        QTRY_COMPARE(loadSettings().camera.cameraName, "Zweite");
+
+        // The choice outlives a restart, and the first camera takes over when the second is gone.
+        QCOMPARE(fixture::startWith(loadSettings())->selectedCameraName(), "Zweite");
+        viewModel->setBrightness(7);
+        unplugSecond.dismiss();
+        simcam({"unplug", "--node", "video40"});
+        QTRY_COMPARE(viewModel->selectedCameraName(), first);
+        QCOMPARE(viewModel->brightness(), 0);
+    }
+
+    void streams()
+    {
+        AppSettings settings;
+        settings.camera.cameraResolutionX = 640;
+        settings.camera.cameraResolutionY = 480;
+        const auto viewModel = fixture::startWith(settings);
+        const SignalRecorder frames(viewModel->controller(), &CameraController::frameReady);
+        QVERIFY(!viewModel->running());
+        emit viewModel->controller()->errorOccurred("alt");
+        viewModel->startCamera();
+        QTRY_VERIFY(viewModel->running());
+        QTRY_COMPARE(viewModel->frameInfo(), "640 x 480");
+        QVERIFY(viewModel->status().isEmpty());
+        QTRY_VERIFY(frames.size() >= 3);
+
+        viewModel->setSelectedResolutionIndex(
+            int(viewModel->resolutionOptions().indexOf(QRegularExpression("^1280 x 720 .*"))));
+        QTRY_COMPARE(viewModel->frameInfo(), "1280 x 720");
+        viewModel->refreshCameras();
+        QVERIFY2(viewModel->running(), "listing leaves the stream alone");
+
+        QSignalSpy running(viewModel.get(), &CameraViewModel::runningChanged);
+        viewModel->stopCamera();
+        QTRY_VERIFY(!viewModel->running());
+        QTRY_VERIFY(running.size() >= 1);
+    }
+
+    void unplugging()
+    {
+        const auto viewModel = fixture::firstStart();
+        const QString name = viewModel->selectedCameraName();
+        viewModel->startCamera();
+        QTRY_VERIFY(viewModel->running());
+
+        simcam({QStringLiteral("unplug")});
+        QTRY_VERIFY(!viewModel->running());
+        QTRY_VERIFY(viewModel->cameraNames().isEmpty());
+        QVERIFY(!viewModel->status().isEmpty());
+        QCOMPARE(viewModel->selectedCameraName(), QString());
+
+        viewModel->setBrightness(12);
+        simcam({QStringLiteral("plug")});
+        QTRY_COMPARE(viewModel->selectedCameraName(), name);
+        QCOMPARE(viewModel->brightness(), 12);
+        QVERIFY(!viewModel->running());
+    }
 
 private:
-    static void simcam(const QStringList &arguments);
+    static void simcam(const QStringList &arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("LD_PRELOAD"));
+        process.setProcessEnvironment(environment);
+        process.start(qEnvironmentVariable("SIMCAM_TOOL"), arguments);
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 0);
+    }
 };
-
-void TestCameraViewModelStream::init()
-{
-    // A test that failed may have left it unplugged.
-    if (QMediaDevices::videoInputs().isEmpty())
-        simcam({QStringLiteral("plug")});
-    QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
-}
-
-void TestCameraViewModelStream::simcam(const QStringList &arguments)
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("LD_PRELOAD"));
-    process.setProcessEnvironment(environment);
-    process.start(qEnvironmentVariable("SIMCAM_TOOL"), arguments);
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 0);
-}
-
-void TestCameraViewModelStream::listsTheCamera()
-{
-    AppSettings settings;
-    settings.camera.cameraResolutionX = 1270;
-    settings.camera.cameraResolutionY = 730;
-    settings.camera.gain = 11;
-    auto viewModel = fixture::startWith(settings);
-    const QCameraDevice device = QMediaDevices::videoInputs().constFirst();
-    QCOMPARE(viewModel->cameraNames(), QStringList{device.description()});
-    QCOMPARE(viewModel->selectedCameraName(), device.description());
-    QVERIFY(viewModel->resolutionOptions().size() > 1);
-    QVERIFY(viewModel->resolutionOptions()
-                .at(viewModel->selectedResolutionIndex())
-                .startsWith("1280 x 720  @ "));
-    QCOMPARE(viewModel->resolutionX(), 1280);
-    QCOMPARE(viewModel->centerX(), 640.0);
-    QCOMPARE(viewModel->centerY(), 360.0);
-    QVERIFY(!viewModel->offsetEnabled());
-    QVERIFY(viewModel->resolutionMinX() < viewModel->resolutionMaxX());
-    viewModel.reset();
-    QCOMPARE(loadSettings().camera.cameraId, QString::fromLatin1(device.id()));
-}
-
-void TestCameraViewModelStream::resolutionChangeDropsTheCalibration()
-{
-    const auto viewModel = fixture::firstStart();
-    emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
-    viewModel->acceptPendingCenter();
-    viewModel->setOffsetX(3);
-
-    viewModel->setSelectedResolutionIndex(viewModel->selectedResolutionIndex());
-    QVERIFY2(viewModel->calibrated(), "the same resolution");
-    QCOMPARE(viewModel->centerX(), 10.0);
-    viewModel->setSelectedResolutionIndex(-1);
-    viewModel->setSelectedResolutionIndex(int(viewModel->resolutionOptions().size()));
-    QVERIFY(viewModel->calibrated());
-
-    viewModel->setSelectedResolutionIndex(0);
-    QCOMPARE(viewModel->selectedResolutionIndex(), 0);
-    QVERIFY(!viewModel->calibrated());
-    QVERIFY(!viewModel->locked());
-    QCOMPARE(viewModel->centerX(), viewModel->resolutionX() * 0.5);
-    QCOMPARE(viewModel->centerY(), viewModel->resolutionY() * 0.5);
-    QCOMPARE(viewModel->offsetX(), 0.0);
-    QTRY_COMPARE(loadSettings().camera.cameraResolutionX, viewModel->resolutionX());
-}
-
-/// The stored camera has another id, so the present one starts from the defaults.
-void TestCameraViewModelStream::anotherCameraResetsTheValues()
-{
-    AppSettings settings;
-    settings.camera.cameraId = QStringLiteral("gone");
-    settings.camera.cameraName = QMediaDevices::videoInputs().constFirst().description();
-    settings.camera.focusValue = 7;
-    settings.camera.captureTimeMs = 3;
-    settings.camera.brightness = 20;
-    settings.camera.contrast = 70;
-    settings.camera.saturation = 80;
-    settings.camera.gain = 9;
-    settings.camera.locked = true;
-    const auto viewModel = fixture::startWith(settings);
-    QCOMPARE(viewModel->focusValue(), 0);
-    QCOMPARE(viewModel->exposure(), 0);
-    QCOMPARE(viewModel->brightness(), 0);
-    QCOMPARE(viewModel->contrast(), 50);
-    QCOMPARE(viewModel->saturation(), 50);
-    QCOMPARE(viewModel->gain(), 9);
-    QVERIFY(!viewModel->locked());
-
-    viewModel->setBrightness(30);
-    viewModel->refreshCameras();
-    viewModel->setSelectedCameraIndex(0);
-    QCOMPARE(viewModel->brightness(), 30);
-}
-
-void TestCameraViewModelStream::choiceBetweenTwoCameras()
-{
-    const auto viewModel = fixture::firstStart();
-    const QString first = viewModel->selectedCameraName();
-    simcam({"plug", "--new", "--node", "video40", "--name", "Zweite"});
-    auto unplugSecond = qScopeGuard([] { simcam({"unplug", "--node", "video40"}); });
-    QTRY_COMPARE(viewModel->cameraNames().size(), 2);
-    QCOMPARE(viewModel->selectedCameraName(), first);
-
-    viewModel->setBrightness(30);
-    viewModel->setGain(5);
-    emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
-    viewModel->acceptPendingCenter();
-    const int second = int(viewModel->cameraNames().indexOf("Zweite"));
-    viewModel->setSelectedCameraIndex(2);
-    QCOMPARE(viewModel->brightness(), 30);
-    QSignalSpy list(viewModel.get(), &CameraViewModel::cameraListChanged);
-    viewModel->setSelectedCameraIndex(second);
-    QCOMPARE(list.size(), 1);
-    QCOMPARE(viewModel->selectedCameraName(), "Zweite");
-    QCOMPARE(viewModel->brightness(), 0);
-    QCOMPARE(viewModel->gain(), 5);
-    QVERIFY(!viewModel->calibrated());
-    QVERIFY(!viewModel->locked());
-    QTRY_COMPARE(loadSettings().camera.cameraName, "Zweite");
-
-    // The choice outlives a restart, and the first camera takes over when the second is gone.
-    QCOMPARE(fixture::startWith(loadSettings())->selectedCameraName(), "Zweite");
-    viewModel->setBrightness(7);
-    unplugSecond.dismiss();
-    simcam({"unplug", "--node", "video40"});
-    QTRY_COMPARE(viewModel->selectedCameraName(), first);
-    QCOMPARE(viewModel->brightness(), 0);
-}
-
-void TestCameraViewModelStream::streams()
-{
-    AppSettings settings;
-    settings.camera.cameraResolutionX = 640;
-    settings.camera.cameraResolutionY = 480;
-    const auto viewModel = fixture::startWith(settings);
-    QSignalSpy frames(viewModel->controller(), &CameraController::frameReady);
-    QVERIFY(!viewModel->running());
-    emit viewModel->controller()->errorOccurred("alt");
-    viewModel->startCamera();
-    QTRY_VERIFY(viewModel->running());
-    QTRY_COMPARE(viewModel->frameInfo(), "640 x 480");
-    QVERIFY(viewModel->status().isEmpty());
-    QTRY_VERIFY(frames.size() >= 3);
-
-    viewModel->setSelectedResolutionIndex(
-        int(viewModel->resolutionOptions().indexOf(QRegularExpression("^1280 x 720 .*"))));
-    QTRY_COMPARE(viewModel->frameInfo(), "1280 x 720");
-    viewModel->refreshCameras();
-    QVERIFY2(viewModel->running(), "listing leaves the stream alone");
-
-    QSignalSpy running(viewModel.get(), &CameraViewModel::runningChanged);
-    viewModel->stopCamera();
-    QTRY_VERIFY(!viewModel->running());
-    QTRY_VERIFY(running.size() >= 1);
-}
-
-void TestCameraViewModelStream::unplugging()
-{
-    const auto viewModel = fixture::firstStart();
-    const QString name = viewModel->selectedCameraName();
-    viewModel->startCamera();
-    QTRY_VERIFY(viewModel->running());
-
-    simcam({QStringLiteral("unplug")});
-    QTRY_VERIFY(!viewModel->running());
-    QTRY_VERIFY(viewModel->cameraNames().isEmpty());
-    QVERIFY(!viewModel->status().isEmpty());
-    QCOMPARE(viewModel->selectedCameraName(), QString());
-
-    viewModel->setBrightness(12);
-    simcam({QStringLiteral("plug")});
-    QTRY_COMPARE(viewModel->selectedCameraName(), name);
-    QCOMPARE(viewModel->brightness(), 12);
-    QVERIFY(!viewModel->running());
-}
 
 QTEST_MAIN(TestCameraViewModelStream)
 #include "tst_cameraviewmodel_stream.moc"
