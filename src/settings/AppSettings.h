@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/CameraProfile.h"
+
 #include <QColor>
 #include <QMap>
 #include <QString>
@@ -115,6 +117,7 @@ struct AppSettings
     int windowX = 0;
     int windowY = 0;
     bool windowMaximized = false;
+    QMap<QString, CameraProfile> cameraProfiles; ///< by camera id
     CameraSettings camera;
     BlobSettings blob;
 

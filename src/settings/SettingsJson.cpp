@@ -1,6 +1,6 @@
 #include "settings/SettingsJson.h"
 
-#include <QJsonValue>
+#include "settings/JsonFields.h"
 
 #include <algorithm>
 #include <array>
@@ -27,33 +27,6 @@ void readName(const QJsonObject &json, QLatin1StringView key,
                                          [](const char *name) { return QLatin1StringView(name); });
     if (found != names.end())
         field = static_cast<int>(found - names.begin());
-}
-
-void read(const QJsonObject &json, QLatin1StringView key, bool &field)
-{
-    field = json.value(key).toBool(field);
-}
-
-void read(const QJsonObject &json, QLatin1StringView key, int &field)
-{
-    field = json.value(key).toInt(field);
-}
-
-void read(const QJsonObject &json, QLatin1StringView key, double &field)
-{
-    field = json.value(key).toDouble(field);
-}
-
-void read(const QJsonObject &json, QLatin1StringView key, QString &field)
-{
-    field = json.value(key).toString(field);
-}
-
-void read(const QJsonObject &json, QLatin1StringView key, QColor &field)
-{
-    const QColor color = QColor::fromString(json.value(key).toString());
-    if (color.isValid())
-        field = color;
 }
 
 } // namespace
@@ -192,6 +165,18 @@ CameraSettings cameraSettingsFromJson(const QJsonObject &json, const CameraSetti
     return camera;
 }
 
+namespace {
+
+QJsonObject toJson(const QMap<QString, CameraProfile> &profiles)
+{
+    QJsonObject json;
+    for (auto profile = profiles.begin(); profile != profiles.end(); ++profile)
+        json.insert(profile.key(), meridax::toJson(profile.value()));
+    return json;
+}
+
+} // namespace
+
 QJsonObject toJson(const AppSettings &settings)
 {
     return {{"language"_L1, settings.language},
@@ -213,6 +198,7 @@ QJsonObject toJson(const AppSettings &settings)
             {"windowX"_L1, settings.windowX},
             {"windowY"_L1, settings.windowY},
             {"windowMaximized"_L1, settings.windowMaximized},
+            {"cameraProfiles"_L1, toJson(settings.cameraProfiles)},
             {"camera"_L1, toJson(settings.camera)},
             {"blob"_L1, toJson(settings.blob)}};
 }
@@ -241,6 +227,11 @@ AppSettings appSettingsFromJson(const QJsonObject &json, const AppSettings &fall
     read(json, "windowX"_L1, settings.windowX);
     read(json, "windowY"_L1, settings.windowY);
     read(json, "windowMaximized"_L1, settings.windowMaximized);
+    const QJsonObject profiles = json.value("cameraProfiles"_L1).toObject();
+    for (auto profile = profiles.begin(); profile != profiles.end(); ++profile) {
+        settings.cameraProfiles.insert(
+            profile.key(), cameraProfileFromJson(profile.value().toObject(), CameraProfile()));
+    }
     settings.camera = cameraSettingsFromJson(json.value("camera"_L1).toObject(), settings.camera);
     settings.blob = blobSettingsFromJson(json.value("blob"_L1).toObject(), settings.blob);
     return settings;

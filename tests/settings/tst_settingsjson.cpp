@@ -137,7 +137,7 @@ void TestSettingsJson::badValuesKeepTheFallback()
     QJsonObject json = toJson(fallback);
     json["camera"] = spoilt(camera, nested);
     json["blob"] = spoilt(json.value("blob").toObject());
-    json = spoilt(json, {"camera", "blob", "collapsedSections"});
+    json = spoilt(json, {"camera", "blob", "cameraProfiles", "collapsedSections"});
     QCOMPARE(appSettingsFromJson(json, fallback), fallback);
 
     // The nested records themselves as the wrong type.
@@ -145,7 +145,9 @@ void TestSettingsJson::badValuesKeepTheFallback()
     const QVariantMap sections = value.toObject().toVariantMap();
     AppSettings read = appSettingsFromJson(spoilt(json), fallback);
     QCOMPARE(read.collapsedSections, sections);
+    QCOMPARE(read.cameraProfiles.size(), sections.size()); // of defaults
     read.collapsedSections.clear();
+    read.cameraProfiles.clear();
     QCOMPARE(read, fallback);
 }
 
