@@ -10,6 +10,7 @@ CameraController::CameraController(QObject *parent)
 {
     qRegisterMetaType<CameraCapabilities>("CameraCapabilities");
     createCalibrationSession();
+    createFocusSession();
 
     m_session.setVideoSink(&m_sink);
     connect(&m_sink, &QVideoSink::videoFrameChanged, this, &CameraController::onVideoFrame);

@@ -35,6 +35,13 @@ struct CalibrationSessionDeleter
     void operator()(CalibrationSession *session) const;
 };
 
+enum class FocusOutcome;
+struct FocusSession;
+struct FocusSessionDeleter
+{
+    void operator()(FocusSession *session) const;
+};
+
 /// Owns the live camera: selects device and format, keeps the hardware controls in step with the
 /// settings, and moves each frame to the processing thread and from there to the screen.
 ///
@@ -70,6 +77,13 @@ public:
     void cancelCalibration();
     /// Begins to average the blob's position; ignored while no calibration is active.
     void measurePosition();
+
+    /// Drives the focus through its range and leaves it where the surroundings of the given point
+    /// (px of the frame) are sharpest; the end comes as `focusSweepFinished`. Ignored while one
+    /// runs.
+    void startFocusSweep(double frameX, double frameY);
+    /// Ends a sweep; the focus goes back to where it was.
+    void cancelFocusSweep();
 
 signals:
     // The order is the meta-object's signal order and part of the interface.
@@ -117,6 +131,7 @@ private:
     void applyCameraFormat();
     void applyCameraControls();
     void applyControlsThroughQt(QCamera &camera) const;
+    void applyFocusValue(int value);
     void onActiveChanged(bool active);
     void onCameraError(const QString &errorText);
     void onVideoInputsChanged();
@@ -143,6 +158,15 @@ private:
     void publishSector(bool inSector, double alignment);
     void measureBlob(cv::Mat &frame, const cv::KeyPoint &blob, int measureFrames);
     void completeCalibration(cv::Mat &frame);
+
+    // Spot focus (src/measurement/CameraController_focus.cpp)
+    void createFocusSession();
+    void measureSharpness(const cv::Mat &frame, int greyConversion);
+    const CameraSettings &sweepSettings() const;
+    void onFocusTick();
+    void moveFocusToNextPosition();
+    void endFocusSweep(int focusValue, FocusOutcome outcome);
+    void reportFocusSweep(int focusValue, FocusOutcome outcome);
 
     QMediaDevices m_devices;
     QMediaCaptureSession m_session;
@@ -175,6 +199,7 @@ private:
     QImage m_lastFrame;
 
     std::unique_ptr<CalibrationSession, CalibrationSessionDeleter> m_calibration;
+    std::unique_ptr<FocusSession, FocusSessionDeleter> m_focus;
 };
 
 } // namespace meridax

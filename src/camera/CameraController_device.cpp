@@ -48,6 +48,7 @@ void CameraController::openCamera(const QCameraDevice &device)
 
 void CameraController::stopCamera()
 {
+    cancelFocusSweep();
     m_streaming = false;
     invalidateFramesInFlight();
 
@@ -149,6 +150,18 @@ void CameraController::applyControlsThroughQt(QCamera &camera) const
         camera.setExposureMode(QCamera::ExposureManual);
         camera.setManualExposureTime(exposureSeconds(settings.captureTimeMs));
     }
+}
+
+void CameraController::applyFocusValue(int value)
+{
+    if (!m_camera || deviceIsGone())
+        return;
+    QCamera &camera = *m_camera;
+    CameraSettings settings = sweepSettings();
+    settings.focusValue = value;
+    camera.setFocusMode(QCamera::FocusModeManual);
+    if (!m_backend || !m_backend->applySettings(settings, nullptr))
+        camera.setFocusDistance(focusDistance(value, settings.focusRangeMax));
 }
 
 void CameraController::startCapabilityProbe()

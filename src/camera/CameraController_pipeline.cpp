@@ -72,11 +72,13 @@ void CameraController::processFrame(PendingFrame &frame)
         // Swapping the channels there and back would change no pixel, so the stamp goes straight
         // into the image, which nobody shares.
         cv::Mat rgb = wrapRgbImage(image);
+        measureSharpness(rgb, cv::COLOR_RGB2GRAY);
         drawTimeStamp(rgb, ChannelOrder::Rgb, now);
     } else {
         cv::Mat bgr;
         cv::cvtColor(wrapRgbImage(std::as_const(image)), bgr, cv::COLOR_RGB2BGR);
         applySoftwareAdjustments(bgr, frame.settings.camera);
+        measureSharpness(bgr, cv::COLOR_BGR2GRAY);
         drawTimeStamp(bgr, ChannelOrder::Bgr, now);
         image = rgbImageFromBgr(bgr);
     }

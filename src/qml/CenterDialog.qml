@@ -8,6 +8,8 @@ import Meridax
 Dialog {
     id: dialog
 
+    /// The user wants the centre in the profile of the camera.
+    property alias updateProfile: profileCheckBox.checked
     readonly property var verdicts: [
         { text: qsTr("Zentrum exzellent bestimmt"), color: "#4CAF50" },
         { text: qsTr("Zentrum gut bestimmt"), color: "#8BC34A" },
@@ -136,6 +138,35 @@ Dialog {
                     Layout.fillWidth: true
                 }
             }
+
+            ColumnLayout {
+                spacing: 0
+                Layout.fillWidth: true
+
+                CheckBox {
+                    id: profileCheckBox
+
+                    objectName: "profileCheckBox"
+                    leftPadding: 0
+                    text: qsTr("Profil aktualisieren")
+                    font.pixelSize: 13
+                    enabled: ViewModel.selectedCameraName !== ""
+                    Accessible.role: Accessible.CheckBox
+                    Accessible.name: text
+                    Accessible.description: profileNote.text
+                }
+
+                Label {
+                    id: profileNote
+
+                    text: qsTr("Bildmitte ins Kamera-Profil speichern und beim nächsten Verbinden "
+                               + "wiederherstellen.")
+                    font.pixelSize: 11
+                    color: Theme.textMuted
+                    wrapMode: Text.WordWrap
+                    Layout.fillWidth: true
+                }
+            }
         }
     }
 
@@ -144,6 +175,9 @@ Dialog {
         standardButton(Dialog.Yes).text = Qt.binding(() => qsTr("Ja"));
         standardButton(Dialog.No).text = Qt.binding(() => qsTr("Nein"));
     }
-    onAboutToShow: flickable.contentY = 0
+    onAboutToShow: {
+        flickable.contentY = 0;
+        profileCheckBox.checked = true;
+    }
     onRejected: ViewModel.discardPendingCenter()
 }

@@ -189,6 +189,39 @@ ApplicationWindow {
         zoomMin: root.zoomMin
     }
 
+    ScreenshotButton {
+        objectName: "screenshotButton"
+        z: 6
+        visible: ViewModel.running
+        anchors {
+            top: topBar.bottom
+            topMargin: 12
+            right: parent.right
+            rightMargin: 12
+        }
+        target: captureArea
+        onFailed: reason => screenshotToast.show(reason)
+    }
+
+    FadingToast {
+        id: screenshotToast
+
+        objectName: "screenshotToast"
+        z: 7
+        anchors {
+            top: topBar.bottom
+            topMargin: 16
+            horizontalCenter: parent.horizontalCenter
+        }
+        width: Math.min(420, implicitWidth)
+        height: 36
+        horizontalPadding: 16
+        color: "#E53935"
+        textColor: "#FFFFFF"
+        hold: 2400
+        fadeOut: 300
+    }
+
     LeftSettingsPanel {
         id: leftPanel
 
@@ -208,7 +241,19 @@ ApplicationWindow {
         objectName: "centerDialog"
         onAccepted: {
             ViewModel.acceptPendingCenter();
+            if (centerDialog.updateProfile && ViewModel.selectedCameraName !== "") {
+                // Last, so that the profile carries the new centre.
+                ViewModel.profileRestoreOnConnect = true;
+                ViewModel.profileRestoreCalibration = true;
+                ViewModel.saveCameraProfile();
+            }
             leftPanel.switchToCamera();
         }
+    }
+
+    ScreenshotFolderDialog {
+        id: screenshotFolderDialog
+
+        objectName: "screenshotFolderDialog"
     }
 }

@@ -171,13 +171,14 @@ Canvas {
 
         function onCameraSettingsChanged() { overlay.requestPaint(); }
         function onCalibrationActiveChanged() { overlay.requestPaint(); }
+        function onFocusTapModeChanged() { overlay.clearHover(); }
         function onGuideStateChanged() { overlay.requestPaint(); }
     }
 
     HoverHandler {
         id: hoverHandler
 
-        enabled: !overlay.dragging
+        enabled: !overlay.dragging && !ViewModel.focusTapModeActive
         cursorShape: overlay.hoverCircle > 0 ? Qt.SizeAllCursor
                                              : overlay.crossActive ? Qt.OpenHandCursor
                                                                    : Qt.ArrowCursor
@@ -192,6 +193,7 @@ Canvas {
     }
 
     DragHandler {
+        enabled: !ViewModel.focusTapModeActive
         target: null
         acceptedButtons: Qt.LeftButton
         // Never from the controls and panels that lie over the picture.
@@ -217,5 +219,12 @@ Canvas {
         color: overlay.dragging ? "#4A9ECA" : "#ffffff"
         border.color: "#4A9ECA"
         border.width: 2
+    }
+    FocusTapArea {
+        objectName: "focusTapArea"
+        anchors.fill: parent
+        frameRect: overlay.ovlSrc
+        shownRect: overlay.ovlDst
+        pxScale: overlay.ovlPxScale
     }
 }

@@ -28,6 +28,8 @@ set(meridax_qml_internal
     src/qml/CenterFigures.qml
     src/qml/CompactSpinBox.qml
     src/qml/CountRow.qml
+    src/qml/FadingRing.qml
+    src/qml/FadingToast.qml
     src/qml/FewPositionsWarning.qml
     src/qml/FigureCaption.qml
     src/qml/FigureValue.qml
@@ -35,6 +37,7 @@ set(meridax_qml_internal
     src/qml/FilterSwitch.qml
     src/qml/FitTable.qml
     src/qml/FocusFrame.qml
+    src/qml/FocusTapArea.qml
     src/qml/GuideSector.qml
     src/qml/HelpTip.qml
     src/qml/InputShield.qml
@@ -51,18 +54,22 @@ set(meridax_qml_internal
     src/qml/RoundnessCanvas.qml
     src/qml/RoundnessDiagram.qml
     src/qml/ScaleButton.qml
+    src/qml/ScreenshotButton.qml
+    src/qml/ScreenshotFolderDialog.qml
     src/qml/SectionChevron.qml
     src/qml/SelectionComboBox.qml
     src/qml/SliderValueDisplay.qml
     src/qml/SliderValueEditor.qml
     src/qml/StatusBar.qml
     src/qml/StepButton.qml
+    src/qml/SweepIndicator.qml
     src/qml/TopBar.qml
     src/qml/ValuePill.qml
     src/qml/Watermark.qml
     src/qml/WindowBackground.qml
     src/qml/ZoomControl.qml
     src/qml/ZoomStepButton.qml
+    src/qml/folderUrl.mjs
     src/qml/overlayGeometry.mjs
     src/qml/plotGeometry.mjs
 )

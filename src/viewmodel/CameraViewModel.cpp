@@ -35,6 +35,7 @@ CameraViewModel::CameraViewModel()
     connect(&m_saveTimer, &QTimer::timeout, this, &CameraViewModel::writeSettings);
     connectController();
     connectCalibration();
+    connectFocus();
     connect(&m_mediaDevices, &QMediaDevices::videoInputsChanged, this,
             &CameraViewModel::refreshCameras);
     refreshCameras();
@@ -79,9 +80,12 @@ void CameraViewModel::onRunningChanged()
     // The signal may be older than the controller's state.
     if (running()) {
         onStatus({});
+        fulfilPendingRestore();
         return;
     }
     storeCalibrationActive(false);
+    setFocusTapModeActive(false);
+    m_calibrationRestorePending = false;
     m_settings.camera.focusRangeMin = 0;
     m_settings.camera.focusRangeMax = 0;
     emit cameraSettingsChanged();

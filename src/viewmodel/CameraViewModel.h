@@ -90,6 +90,12 @@ class CameraViewModel : public QObject
     Q_PROPERTY(QString frameInfo READ frameInfo NOTIFY frameInfoChanged)
     Q_PROPERTY(int blobCount READ blobCount NOTIFY blobCountChanged)
 
+    // Spot focus
+    Q_PROPERTY(bool focusTapModeActive READ focusTapModeActive WRITE setFocusTapModeActive NOTIFY
+                   focusTapModeChanged)
+    Q_PROPERTY(bool focusSweepActive READ focusSweepActive NOTIFY focusSweepChanged)
+    Q_PROPERTY(double focusSweepFraction READ focusSweepFraction NOTIFY focusSweepProgressChanged)
+
     // Calibration
     Q_PROPERTY(bool calibrationActive READ calibrationActive NOTIFY calibrationActiveChanged)
     Q_PROPERTY(int currentGuideIndex READ currentGuideIndex NOTIFY guideStateChanged)
@@ -151,6 +157,16 @@ class CameraViewModel : public QObject
     MERIDAX_CONTROL_RANGE(contrast)
     MERIDAX_CONTROL_RANGE(saturation)
     MERIDAX_CONTROL_RANGE(gain)
+
+    // Profile of the selected camera; the centre is that of the selected resolution
+    Q_PROPERTY(bool profileExists READ profileExists NOTIFY profileSettingsChanged)
+    Q_PROPERTY(bool profileRestoreOnConnect READ profileRestoreOnConnect WRITE
+                   setProfileRestoreOnConnect NOTIFY profileSettingsChanged)
+    Q_PROPERTY(bool profileRestoreCalibration READ profileRestoreCalibration WRITE
+                   setProfileRestoreCalibration NOTIFY profileSettingsChanged)
+    Q_PROPERTY(double profileCenterX READ profileCenterX NOTIFY profileSettingsChanged)
+    Q_PROPERTY(double profileCenterY READ profileCenterY NOTIFY profileSettingsChanged)
+    Q_PROPERTY(bool profileCalibrated READ profileCalibrated NOTIFY profileSettingsChanged)
 
     // Overlay. Line widths are in screen pixels; line styles and cross types as in AppSettings.h.
     Q_PROPERTY(double centerX READ centerX WRITE setCenterX NOTIFY overlaySettingsChanged)
@@ -230,6 +246,11 @@ public:
     QString frameInfo() const { return m_frameInfo; }
     int blobCount() const { return m_blobCount; }
 
+    bool focusTapModeActive() const { return m_focusTapModeActive; }
+    void setFocusTapModeActive(bool active);
+    bool focusSweepActive() const { return m_focusSweepActive; }
+    double focusSweepFraction() const { return m_focusSweepFraction; }
+
     bool calibrationActive() const { return m_calibrationActive; }
     int currentGuideIndex() const { return m_currentGuideIndex; }
     int totalGuidePositions() const { return m_totalGuidePositions; }
@@ -285,6 +306,15 @@ public:
     int gain() const { return m_settings.camera.gain; }
     void setGain(int value);
 
+    bool profileExists() const;
+    bool profileRestoreOnConnect() const;
+    void setProfileRestoreOnConnect(bool restore);
+    bool profileRestoreCalibration() const;
+    void setProfileRestoreCalibration(bool restore);
+    double profileCenterX() const { return profileCalibration().centerX; }
+    double profileCenterY() const { return profileCalibration().centerY; }
+    bool profileCalibrated() const { return profileCalibration().calibrated; }
+
     double centerX() const { return m_settings.camera.centerX; }
     void setCenterX(double x) { storeCenter(m_settings.camera.centerX, x); }
     double centerY() const { return m_settings.camera.centerY; }
@@ -307,9 +337,17 @@ public:
     CameraController *controller() { return &m_controller; }
 
 public slots:
+    /// Focuses on what is at that point of the frame; acts in tap mode only and not while a sweep
+    /// runs.
+    void requestFocusTap(double frameX, double frameY);
     /// Remembers the window's normal geometry (screen pixels) and writes the file at once. Below
     /// 400 x 400 only `maximized` is taken.
     void saveWindowGeometry(int x, int y, int width, int height, bool maximized);
+    /// Saves the last frame without the overlay; the path of the file, empty on failure.
+    QString captureScreenshot() const;
+    /// The path for the next screenshot, whose folder exists then; empty on failure.
+    QString nextScreenshotFilePath() const;
+    void noteScreenshotSaved(const QString &fullPath) const;
     /// Whether the section `key` was left closed, `defaultCollapsed` when nothing is remembered.
     bool sectionCollapsed(const QString &key, bool defaultCollapsed) const;
     void setSectionCollapsed(const QString &key, bool collapsed);
@@ -320,6 +358,10 @@ public slots:
     void stopCamera();
     /// Lists the attached cameras anew and selects the remembered one, or else the first.
     void refreshCameras();
+
+    /// Keeps the present values and the centre for when the camera connects again.
+    void saveCameraProfile();
+    void clearCameraProfile();
 
     /// Begins a calibration of `calibrationPositions` positions; a pending centre is dropped.
     void startCalibration();
@@ -336,6 +378,13 @@ signals:
     void statusChanged();
     void frameInfoChanged();
     void blobCountChanged();
+    void focusTapModeChanged();
+    void focusSweepChanged();
+    void focusSweepProgressChanged();
+    /// A tap was taken, at this point of the frame.
+    void focusTapRequested(double frameX, double frameY);
+    /// A sweep ended with that FocusOutcome; its focus value is stored by then.
+    void focusSweepFeedback(int outcome);
     void calibrationActiveChanged();
     void guideStateChanged();
     void measurementsChanged();
@@ -349,6 +398,7 @@ signals:
     void cameraCapabilitiesChanged();
     void overlaySettingsChanged();
     void blobSettingsChanged();
+    void profileSettingsChanged();
     void calibrationSettingsChanged();
     void appSettingsChanged();
 
@@ -358,6 +408,7 @@ private:
     CameraViewModel();
     void connectController();
     void connectCalibration();
+    void connectFocus();
 
     /// The common end of a setter that concerns the camera: the controller takes the whole record,
     /// the interface hears of it, the file is written after the last of a burst of changes.
@@ -399,7 +450,16 @@ private:
     void applyResolutionChange(const QSize &oldSize, const QSize &newSize);
     void resetCameraValues();
 
+    ResolutionCalibration profileCalibration() const;
+    template <typename Change>
+    void changeProfile(Change change);
+    void restoreProfile();
+    void forgetRestoredProfile();
+    void fulfilPendingRestore();
+
     void onRunningChanged();
+    void storeFocusSweep(bool active);
+    void onFocusSweepFinished(int focusValue, int outcome);
     void onStatus(const QString &status);
     void onCapabilitiesDetected(const CameraCapabilities &caps);
     void migrateExposure();
@@ -417,6 +477,10 @@ private:
     QString m_status;
     QString m_frameInfo;
     int m_blobCount = 0;
+
+    bool m_focusTapModeActive = false;
+    bool m_focusSweepActive = false;
+    double m_focusSweepFraction = 0.0;
 
     bool m_calibrationActive = false;
     int m_currentGuideIndex = 0;
@@ -438,6 +502,10 @@ private:
     // Live flags; the settings hold their stored twins.
     bool m_calibrated = false;
     bool m_locked = false;
+    bool m_calibrationRestorePending = false;
+    // What the selected camera has already got back from its profile.
+    bool m_profileRestoredOnce = false;
+    QString m_lastRestoredResolutionKey;
 
     QTimer m_saveTimer;
     QTranslator m_translator;

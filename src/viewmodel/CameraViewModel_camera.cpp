@@ -19,6 +19,9 @@ constexpr ControlRange fallbackExposureRange{.min = -6, .max = 6, .supported = t
 
 void CameraViewModel::startCamera()
 {
+    m_calibrationRestorePending = false;
+    restoreProfile();
+    m_profileRestoredOnce = true;
     m_controller.updateSettings(m_settings);
     m_controller.startCamera();
 }
@@ -60,12 +63,15 @@ void CameraViewModel::setSelectedCameraIndex(int index)
     const QString previousId = m_settings.camera.cameraId;
     m_selectedCameraIndex = index;
     storeSelectedCamera();
-    if (!previousId.isEmpty() && previousId != m_settings.camera.cameraId)
+    if (!previousId.isEmpty() && previousId != m_settings.camera.cameraId) {
+        forgetRestoredProfile();
         resetCameraValues();
+    }
     snapToNearestFormat();
     m_controller.updateSettings(m_settings);
     emit cameraListChanged();
     emit cameraSettingsChanged();
+    emit profileSettingsChanged();
     m_saveTimer.start();
 }
 
@@ -76,6 +82,7 @@ void CameraViewModel::setSelectedResolutionIndex(int index)
         return;
     selectFormat(formats.at(index));
     settingsChanged(&CameraViewModel::cameraSettingsChanged);
+    emit profileSettingsChanged();
 }
 
 int CameraViewModel::selectedResolutionIndex() const

@@ -172,9 +172,9 @@ void tst_simcamStream::markIsWhereTheTruthSays()
     QCOMPARE(camera.setFormat(kYuyv, unsigned(size.width()), unsigned(size.height())), 0);
     for (const char *angle : {"-179.3", "-45", "12.7", "101"}) {
         QCOMPARE(simcam({"turn", "--to", angle}).exitCode, 0);
-        // A stream of its own for each angle: its first frame holds it, and it is the last one
-        // rendered when the truth is asked.
-        QCOMPARE(camera.start(V4L2_MEMORY_MMAP, 2), 0);
+        // A stream of its own for each angle, with a single buffer: its first frame holds the
+        // angle, and it is the last one rendered when the truth is asked.
+        QCOMPARE(camera.start(V4L2_MEMORY_MMAP, 1), 0);
         const CapturedFrame frame = camera.take();
         camera.stop();
         QCOMPARE(frame.error, 0);

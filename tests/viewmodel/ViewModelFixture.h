@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QMediaDevices>
+#include <QProcess>
+#include <QTest>
 
 #include <memory>
 
@@ -40,6 +42,18 @@ inline void prepareProcess()
     QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
     // Qt Multimedia warns at its first use on a machine without a sound server.
     const QMediaDevices devices;
+}
+
+/// Runs the command line tool of the simulated camera.
+inline void simcam(const QStringList &arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("LD_PRELOAD"));
+    process.setProcessEnvironment(environment);
+    process.start(qEnvironmentVariable("SIMCAM_TOOL"), arguments);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 0);
 }
 
 } // namespace fixture

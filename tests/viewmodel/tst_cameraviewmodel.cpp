@@ -17,8 +17,10 @@ namespace {
 /// Writers that do more than store a value, or need a camera.
 bool isPlain(const QMetaProperty &property)
 {
-    static const QByteArrayList others{"objectName", "selectedCameraIndex",
-                                       "selectedResolutionIndex"};
+    // The others need a camera or belong to the moment.
+    static const QByteArrayList others{
+        "objectName",         "selectedCameraIndex",     "selectedResolutionIndex",
+        "focusTapModeActive", "profileRestoreOnConnect", "profileRestoreCalibration"};
     return property.isWritable() && !others.contains(property.name());
 }
 

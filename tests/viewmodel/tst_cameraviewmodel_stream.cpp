@@ -2,7 +2,6 @@
 #include "ViewModelFixture.h"
 
 #include <QMediaDevices>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -22,7 +21,7 @@ private slots:
     {
         // A test that failed may have left it unplugged.
         if (QMediaDevices::videoInputs().isEmpty())
-            simcam({QStringLiteral("plug")});
+            fixture::simcam({QStringLiteral("plug")});
         QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
     }
 
@@ -96,8 +95,8 @@ private slots:
     {
         const auto viewModel = fixture::firstStart();
         const QString first = viewModel->selectedCameraName();
-        simcam({"plug", "--new", "--node", "video40", "--name", "Zweite"});
-        auto unplugSecond = qScopeGuard([] { simcam({"unplug", "--node", "video40"}); });
+        fixture::simcam({"plug", "--new", "--node", "video40", "--name", "Zweite"});
+        auto unplugSecond = qScopeGuard([] { fixture::simcam({"unplug", "--node", "video40"}); });
         QTRY_COMPARE(viewModel->cameraNames().size(), 2);
         QCOMPARE(viewModel->selectedCameraName(), first);
 
@@ -122,7 +121,7 @@ private slots:
         QCOMPARE(fixture::startWith(loadSettings())->selectedCameraName(), "Zweite");
         viewModel->setBrightness(7);
         unplugSecond.dismiss();
-        simcam({"unplug", "--node", "video40"});
+        fixture::simcam({"unplug", "--node", "video40"});
         QTRY_COMPARE(viewModel->selectedCameraName(), first);
         QCOMPARE(viewModel->brightness(), 0);
     }
@@ -161,29 +160,17 @@ private slots:
         viewModel->startCamera();
         QTRY_VERIFY(viewModel->running());
 
-        simcam({QStringLiteral("unplug")});
+        fixture::simcam({QStringLiteral("unplug")});
         QTRY_VERIFY(!viewModel->running());
         QTRY_VERIFY(viewModel->cameraNames().isEmpty());
         QVERIFY(!viewModel->status().isEmpty());
         QCOMPARE(viewModel->selectedCameraName(), QString());
 
         viewModel->setBrightness(12);
-        simcam({QStringLiteral("plug")});
+        fixture::simcam({QStringLiteral("plug")});
         QTRY_COMPARE(viewModel->selectedCameraName(), name);
         QCOMPARE(viewModel->brightness(), 12);
         QVERIFY(!viewModel->running());
-    }
-
-private:
-    static void simcam(const QStringList &arguments)
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("LD_PRELOAD"));
-        process.setProcessEnvironment(environment);
-        process.start(qEnvironmentVariable("SIMCAM_TOOL"), arguments);
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitCode(), 0);
     }
 };
 
