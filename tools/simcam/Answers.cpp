@@ -133,9 +133,9 @@ int queryOldControl(const Device &device, v4l2_queryctrl &q)
     return 0;
 }
 
-int queryMenu(v4l2_querymenu &q)
+int queryMenu(const Device &device, v4l2_querymenu &q)
 {
-    const Control *control = findControl(q.id);
+    const Control *control = findControl(device.state(), q.id);
     if (!control || !control->menu || q.index > unsigned(control->max) ||
         !(control->menuMask >> q.index & 1))
         return -EINVAL;

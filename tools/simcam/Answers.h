@@ -26,7 +26,7 @@ int setPriority(Handle &handle, std::uint32_t priority);
 
 /// The older requests for controls, in terms of the newer ones.
 int queryOldControl(const Device &device, v4l2_queryctrl &q);
-int queryMenu(v4l2_querymenu &q);
+int queryMenu(const Device &device, v4l2_querymenu &q);
 int accessOldControl(Device &device, Handle *handle, v4l2_control &c, unsigned extRequest);
 
 int unsubscribe(Handle &handle, const v4l2_event_subscription &s);

@@ -73,7 +73,7 @@ void printEverything(const State &state, const Printer &print)
     }
     printFormat(state, print);
     for (const Control &control : controls())
-        if (!control.isClass())
+        if (!control.isClass() && isOffered(state, control))
             print(controlKey(control), std::to_string(state.control[slotOf(control)]));
     print("play-folder", state.playGeneration ? state.playFolder : "none");
     print("streaming-process", std::to_string(state.owner));
@@ -81,6 +81,8 @@ void printEverything(const State &state, const Printer &print)
     print("dropped", std::to_string(state.dropped));
     print("render-us", std::to_string(state.renderUs));
     print("opens", std::to_string(state.opens));
+    print("control-calls", std::to_string(state.controlCalls));
+    print("control-writes", std::to_string(state.controlWrites));
 }
 
 void printLine(const std::string &key, const std::string &value)

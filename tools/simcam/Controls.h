@@ -20,13 +20,20 @@ struct Control
     std::uint32_t menuMask = 0; ///< bit i: menu entry i exists
     std::uint32_t master = 0;   ///< control whose automatic mode takes this one over
     int masterManual = 0;       ///< value of the master that leaves this control to the user
+    unsigned cameras = 0;       ///< bit i: offered where the parameter `controls` is i
+    std::uint32_t flags = 0;    ///< V4L2_CTRL_FLAG_* that never change
 
     bool isClass() const { return type == V4L2_CTRL_TYPE_CTRL_CLASS; }
+    bool is64Bit() const { return type == V4L2_CTRL_TYPE_INTEGER64; }
 };
 
-/// All controls, ascending by id as walking them one by one needs.
+/// All controls of all kinds of cameras, ascending by id as walking them one by one needs. Those
+/// of one id belong to different cameras.
 std::span<const Control> controls();
-const Control *findControl(std::uint32_t id);
+/// True if the camera has this control.
+bool isOffered(const State &state, const Control &control);
+/// The camera's control of that id, null if it has none.
+const Control *findControl(const State &state, std::uint32_t id);
 
 /// Slot of `control` in State::control.
 unsigned slotOf(const Control &control);

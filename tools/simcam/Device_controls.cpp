@@ -10,6 +10,27 @@
 
 namespace meridax::simcam {
 
+namespace {
+
+/// The value that `entry` holds for a control of that type.
+std::int32_t valueIn(const v4l2_ext_control &entry, const Control &control)
+{
+    if (!control.is64Bit())
+        return entry.value;
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(entry.value64, control.min, control.max));
+}
+
+void store(std::int32_t value, const Control &control, v4l2_ext_control &entry)
+{
+    if (control.is64Bit())
+        entry.value64 = value;
+    else
+        entry.value = value;
+}
+
+} // namespace
+
 int Device::queryControl(v4l2_query_ext_ctrl &query) const
 {
     const std::uint32_t id = query.id;
@@ -17,12 +38,14 @@ int Device::queryControl(v4l2_query_ext_ctrl &query) const
     if (id & V4L2_CTRL_FLAG_NEXT_CTRL) {
         const auto all = simcam::controls();
         const auto next = std::find_if(all.begin(), all.end(), [&](const Control &c) {
-            return c.id > (id & V4L2_CTRL_ID_MASK);
+            return c.id > (id & V4L2_CTRL_ID_MASK) && isOffered(m_state, c);
         });
         control = next == all.end() ? nullptr : &*next;
     } else if (!(id & V4L2_CTRL_FLAG_NEXT_COMPOUND)) {
-        control = findControl(id);
+        control = findControl(m_state, id);
     }
+    if (const int error = static_cast<int>(m_state.get(Param::QueryErrno)))
+        return -error;
     if (!control)
         return -EINVAL;
     query = {};
@@ -35,7 +58,7 @@ int Device::queryControl(v4l2_query_ext_ctrl &query) const
     query.default_value = control->defaultValue;
     query.flags = controlFlags(m_state, *control);
     query.elems = control->isClass() ? 0 : 1;
-    query.elem_size = control->isClass() ? 0 : 4;
+    query.elem_size = control->isClass() ? 0 : control->is64Bit() ? 8 : 4;
     return 0;
 }
 
@@ -45,23 +68,27 @@ int Device::checkControls(const v4l2_ext_controls &list, unsigned request,
     const bool isGet = request == VIDIOC_G_EXT_CTRLS;
     const bool isSet = request == VIDIOC_S_EXT_CTRLS;
     for (unsigned i = 0; i < list.count; ++i) {
-        const Control *control = findControl(list.controls[i].id);
+        const Control *control = findControl(m_state, list.controls[i].id);
         int result = 0;
         if (!control) {
             result = -EINVAL;
-        } else if (control->isClass()) {
+        } else if (control->isClass() || (isSet && control->flags & V4L2_CTRL_FLAG_READ_ONLY)) {
             result = -EACCES;
+        } else if (control->flags & V4L2_CTRL_FLAG_DISABLED) {
+            result = -EINVAL;
         } else if (!isGet) {
-            std::int32_t value = list.controls[i].value;
+            std::int32_t value = valueIn(list.controls[i], *control);
             result = validate(*control, value);
             if (result == 0 && isSet && control->master) {
                 // A control under automatic rule refuses, unless the same call switches to manual.
-                std::int32_t mode = m_state.control[slotOf(*findControl(control->master))];
+                std::int32_t mode = m_state.control[slotOf(*findControl(m_state, control->master))];
                 for (unsigned k = 0; k < list.count; ++k)
                     if (list.controls[k].id == control->master)
                         mode = list.controls[k].value;
                 if (mode != control->masterManual)
                     result = -EACCES;
+                else if (m_state.isRefusing.exchange(0))
+                    result = -EBUSY;
             }
         }
         if (result) {
@@ -97,20 +124,22 @@ int Device::accessControls(Handle *handle, v4l2_ext_controls &list, unsigned req
             return -EINVAL;
         }
     }
+    if (const int error = static_cast<int>(m_state.get(Param::ControlErrno)); error && isSet)
+        return -error;
     // All are checked before the first one changes.
     if (const int result = checkControls(list, request, list.error_idx))
         return result;
     for (unsigned i = 0; i < list.count; ++i) {
         v4l2_ext_control &entry = list.controls[i];
-        const Control &control = *findControl(entry.id);
+        const Control &control = *findControl(m_state, entry.id);
         if (isGet) {
-            entry.value =
-                wantsDefaults ? control.defaultValue : m_state.control[slotOf(control)].load();
+            store(wantsDefaults ? control.defaultValue : m_state.control[slotOf(control)].load(),
+                  control, entry);
             continue;
         }
-        std::int32_t value = entry.value;
+        std::int32_t value = valueIn(entry, control);
         validate(control, value);
-        entry.value = value;
+        store(value, control, entry);
         if (isSet)
             setControl(handle, control, value);
     }
@@ -119,14 +148,17 @@ int Device::accessControls(Handle *handle, v4l2_ext_controls &list, unsigned req
 
 void Device::setControl(const Handle *from, const Control &control, std::int32_t value)
 {
+    ++m_state.controlWrites;
     const std::int32_t old = m_state.control[slotOf(control)].exchange(value);
     log("%s = %d (was %d)", control.name, value, old);
     if (old == value)
         return;
     notify(from, control, V4L2_EVENT_CTRL_CH_VALUE);
     for (const Control &other : simcam::controls())
-        if (other.master == control.id)
+        if (other.master == control.id && isOffered(m_state, other)) {
             notify(nullptr, other, V4L2_EVENT_CTRL_CH_FLAGS);
+            m_state.isRefusing = m_state.isOn(Param::RefuseFirst);
+        }
 }
 
 v4l2_event Device::controlEvent(const Control &control, std::uint32_t changes) const
@@ -177,7 +209,7 @@ void Device::notify(const Handle *from, const Control &control, std::uint32_t ch
 
 int Device::subscribe(Handle *handle, const v4l2_event_subscription &subscription)
 {
-    const Control *control = findControl(subscription.id);
+    const Control *control = findControl(m_state, subscription.id);
     if (subscription.type != V4L2_EVENT_CTRL || !control)
         return -EINVAL;
     handle->subscriptions.push_back(subscription);

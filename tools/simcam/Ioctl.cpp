@@ -116,7 +116,7 @@ int answerCapture(Device &device, Handle *handle, unsigned request, void *p, Dev
     case VIDIOC_QUERYCTRL:
         return queryOldControl(device, as<v4l2_queryctrl>(p));
     case VIDIOC_QUERYMENU:
-        return queryMenu(as<v4l2_querymenu>(p));
+        return queryMenu(device, as<v4l2_querymenu>(p));
     case VIDIOC_G_CTRL:
         return accessOldControl(device, handle, as<v4l2_control>(p), VIDIOC_G_EXT_CTRLS);
     case VIDIOC_S_CTRL:
@@ -145,6 +145,24 @@ int answerCapture(Device &device, Handle *handle, unsigned request, void *p, Dev
         return as<std::uint32_t>(p) == kCapture ? device.streamOff(handle, lock) : -EINVAL;
     default:
         return -ENOTTY;
+    }
+}
+
+/// True for the requests that concern the controls.
+bool concernsControls(unsigned request)
+{
+    switch (request) {
+    case VIDIOC_QUERY_EXT_CTRL:
+    case VIDIOC_QUERYCTRL:
+    case VIDIOC_QUERYMENU:
+    case VIDIOC_G_CTRL:
+    case VIDIOC_S_CTRL:
+    case VIDIOC_G_EXT_CTRLS:
+    case VIDIOC_S_EXT_CTRLS:
+    case VIDIOC_TRY_EXT_CTRLS:
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -190,6 +208,8 @@ int answerIoctl(Handle *handle, unsigned request, void *argument)
     auto lock = device.lock();
     if (device.isGone())
         return -ENODEV;
+    if (concernsControls(request))
+        ++device.state().controlCalls;
     const int result = device.state().kind == State::Metadata
                            ? answerMetadata(device, request, argument)
                            : answerCapture(device, handle, request, argument, lock);

@@ -48,6 +48,8 @@ constexpr ParamInfo kParameters[] = {
     {"turn-move", Real, 0, 60, 0.5F, false, "time of the way to the next position [s]"},
     {"play-frame", Integer, -1, 1e6F, -1, false,
      "number of the recorded frame to show, -1 all in order"},
+    {"controls", Integer, 0, 3, 2, false,
+     "0 none, 1 image controls only, 2 those of most cameras, 3 those of an odd one"},
     {"stall", Switch, 0, 1, 0, true, "streaming, but no frame arrives"},
     {"freeze", Switch, 0, 1, 0, true, "the same picture again and again"},
     {"frame-delay", Real, 0, 60, 0, true, "added to the time between two frames [s]"},
@@ -56,6 +58,11 @@ constexpr ParamInfo kParameters[] = {
     {"truncate", Switch, 0, 1, 0, true, "MJPEG frames end in the middle"},
     {"error-frames", Switch, 0, 1, 0, true, "frames arrive empty and flagged as faulty"},
     {"no-userptr", Switch, 0, 1, 0, true, "only memory-mapped buffers are offered"},
+    {"query-errno", Errno, 0, 200, 0, true,
+     "asking for the range of a control fails with this error"},
+    {"control-errno", Errno, 0, 200, 0, true, "setting a control fails with this error"},
+    {"refuse-first", Switch, 0, 1, 0, true,
+     "the first value after a change of its automatic mode is refused"},
 };
 static_assert(std::size(kParameters) == kParamCount);
 

@@ -42,6 +42,7 @@ enum class Param : unsigned {
     TurnDwell,
     TurnMove,
     PlayFrame,
+    Controls,
     Stall,
     Freeze,
     FrameDelay,
@@ -50,6 +51,9 @@ enum class Param : unsigned {
     Truncate,
     ErrorFrames,
     NoUserptr,
+    QueryErrno,
+    ControlErrno,
+    RefuseFirst,
     Count
 };
 

@@ -14,8 +14,8 @@ namespace meridax::simcam {
 /// locked behind; `name` and `playFolder` change only while nobody reads them (see Commands.cpp).
 struct State
 {
-    static constexpr std::uint32_t kMagic = 0x53494d33;
-    static constexpr unsigned kMaxControls = 24;
+    static constexpr std::uint32_t kMagic = 0x53494d34;
+    static constexpr unsigned kMaxControls = 32;
     enum Kind : std::uint32_t { Capture, Metadata };
 
     std::atomic<std::uint32_t> magic;
@@ -32,9 +32,12 @@ struct State
     std::atomic<std::uint32_t> width, height, pixelFormat, framesPerSecond;
     std::atomic<std::int32_t> owner; ///< process that holds the buffers, 0 none
     std::atomic<std::int32_t> control[kMaxControls];
+    std::atomic<std::uint32_t> isRefusing; ///< the next value of a control is refused
 
     // Statistics, written by the library.
     std::atomic<std::uint32_t> frames, dropped, renderUs, opens;
+    std::atomic<std::uint32_t> controlCalls,
+        controlWrites;                 ///< requests for controls; those that set
     std::atomic<float> shownX, shownY; ///< mark in the last frame with all its noise [px]
 
     char name[32];
