@@ -130,6 +130,7 @@ private:
     bool deviceIsGone() const;
     void applyCameraFormat();
     void applyCameraControls();
+    bool backendTakes(const CameraSettings &settings) const;
     void applyControlsThroughQt(QCamera &camera) const;
     void applyFocusValue(int value);
     void onActiveChanged(bool active);

@@ -134,11 +134,19 @@ void CameraController::applyCameraControls()
         return;
     // An error that a call raises lets go of m_camera; the object itself lives on for a turn.
     QCamera &camera = *m_camera;
+    const bool backendFirst = controlOrder() == ControlOrder::BackendFirst;
+    if (backendFirst && backendTakes(m_settings.camera))
+        return;
     camera.setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
                                                           : QCamera::FocusModeAuto);
     camera.setExposureMode(QCamera::ExposureAuto);
-    if (!m_backend || !m_backend->applySettings(m_settings.camera, nullptr))
+    if (backendFirst || !backendTakes(m_settings.camera))
         applyControlsThroughQt(camera);
+}
+
+bool CameraController::backendTakes(const CameraSettings &settings) const
+{
+    return m_backend && m_backend->applySettings(settings, nullptr);
 }
 
 void CameraController::applyControlsThroughQt(QCamera &camera) const

@@ -32,4 +32,11 @@ public:
 /// camera interface alone.
 std::unique_ptr<ICameraBackend> createCameraBackend();
 
+/// Whether Qt's calls for focus and exposure mode come before the backend's write, or only where
+/// the backend took nothing.
+enum class ControlOrder { QtFirst, BackendFirst };
+
+/// The order of this platform.
+ControlOrder controlOrder();
+
 } // namespace meridax

@@ -7,4 +7,9 @@ std::unique_ptr<ICameraBackend> createCameraBackend()
     return nullptr;
 }
 
+ControlOrder controlOrder()
+{
+    return ControlOrder::QtFirst;
+}
+
 } // namespace meridax

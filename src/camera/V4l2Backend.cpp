@@ -1,0 +1,156 @@
+#include "camera/V4l2Backend.h"
+#include "camera/V4l2Control.h"
+
+#include <QDebug>
+#include <QDir>
+
+#include <cerrno>
+#include <cstring>
+
+namespace meridax {
+
+namespace {
+
+constexpr V4l2ControlIds exposure{V4L2_CID_EXPOSURE_ABSOLUTE, V4L2_CID_EXPOSURE_AUTO};
+constexpr V4l2ControlIds focus{V4L2_CID_FOCUS_ABSOLUTE, V4L2_CID_FOCUS_AUTO};
+constexpr V4l2ControlIds brightness{V4L2_CID_BRIGHTNESS, V4L2_CID_AUTOBRIGHTNESS};
+constexpr V4l2ControlIds contrast{V4L2_CID_CONTRAST, 0};
+constexpr V4l2ControlIds saturation{V4L2_CID_SATURATION, 0};
+constexpr V4l2ControlIds gain{V4L2_CID_GAIN, V4L2_CID_AUTOGAIN};
+constexpr V4l2ControlIds gammaCurve{V4L2_CID_GAMMA, 0};
+constexpr V4l2ControlIds whiteBalance{V4L2_CID_WHITE_BALANCE_TEMPERATURE,
+                                      V4L2_CID_AUTO_WHITE_BALANCE};
+
+void tell(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+/// True if the error of opening a node means that no camera is there, not that it is denied.
+bool meansNoCamera(int error)
+{
+    return error == ENOENT || error == ENODEV || error == ENXIO || error == ENOTTY;
+}
+
+std::optional<V4l2Device> opened(V4l2Device device, const QString &path, QString *error)
+{
+    if (!device.error())
+        return device;
+    tell(error, QStringLiteral("V4L2-Kamera %1 konnte nicht geöffnet werden: %2")
+                    .arg(path, QString::fromLocal8Bit(strerrordesc_np(device.error()))));
+    return {};
+}
+
+std::optional<V4l2Device> openByNameOrIndex(const CameraSettings &settings, QString *error)
+{
+    std::vector<V4l2Device> devices;
+    std::vector<DeviceNames> names;
+    QStringList paths;
+    // In the order of their names, as the camera list has them.
+    const QStringList nodes = QDir(QStringLiteral("/dev"))
+                                  .entryList({QStringLiteral("video*")}, QDir::System, QDir::Name);
+    for (const QString &node : nodes) {
+        const QString path = QStringLiteral("/dev/") + node;
+        V4l2Device device(path);
+        if (meansNoCamera(device.error()))
+            continue;
+        names.push_back({device.name().toCaseFolded().toStdWString(), path.toStdWString()});
+        paths << path;
+        devices.push_back(std::move(device));
+    }
+    const int chosen =
+        chooseByName(names, {.name = settings.cameraName.toCaseFolded().toStdWString(),
+                             .id = {},
+                             .index = settings.cameraIndex});
+    if (chosen < 0) {
+        tell(error, QStringLiteral("Keine V4L2-Kameras gefunden."));
+        return {};
+    }
+    return opened(std::move(devices[static_cast<size_t>(chosen)]), paths[chosen], error);
+}
+
+std::optional<V4l2Device> openWanted(const CameraSettings &settings, QString *error)
+{
+    if (error)
+        error->clear();
+    if (settings.cameraId.startsWith(QLatin1String("/dev/video"))) {
+        V4l2Device device(settings.cameraId);
+        // No search then: opening wakes up every camera that sleeps.
+        if (!meansNoCamera(device.error()))
+            return opened(std::move(device), settings.cameraId, error);
+    }
+    return openByNameOrIndex(settings, error);
+}
+
+bool applyExposure(const V4l2Device &device, int value)
+{
+    V4l2Control control(device, exposure);
+    if (!control.exists())
+        return false;
+    const std::optional<ControlWrite> write = exposureWrite(value, control.range());
+    return write && control.apply(*write).taken;
+}
+
+bool applyFocus(const V4l2Device &device, int value)
+{
+    V4l2Control control(device, focus);
+    return control.exists() && control.apply(controlWrite(value, control.range())).taken;
+}
+
+bool applyImageControl(const V4l2Device &device, V4l2ControlIds ids, int value)
+{
+    V4l2Control control(device, ids);
+    if (!control.exists())
+        return false;
+    const ControlWrite write = controlWrite(value, control.range());
+    const V4l2Control::Outcome outcome = control.apply(write);
+    if (outcome.touched)
+        qInfo().noquote() << QString::fromStdString(
+            procAmpLogLine(ids.value, write, outcome.taken, control.readBack()));
+    return outcome.taken;
+}
+
+} // namespace
+
+bool V4l2Backend::applySettings(const CameraSettings &settings, QString *error)
+{
+    const std::optional<V4l2Device> device = openWanted(settings, error);
+    if (!device)
+        return false;
+    bool taken = applyExposure(*device, settings.captureTimeMs);
+    taken |= applyFocus(*device, settings.focusValue);
+    taken |= applyImageControl(*device, brightness, settings.brightness);
+    taken |= applyImageControl(*device, contrast, settings.contrast);
+    taken |= applyImageControl(*device, saturation, settings.saturation);
+    taken |= applyImageControl(*device, gain, settings.gain);
+    return taken;
+}
+
+bool V4l2Backend::queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
+                                          QString *error)
+{
+    *caps = {};
+    const std::optional<V4l2Device> device = openWanted(settings, error);
+    if (!device)
+        return false;
+    bool any = false;
+    const auto read = [&](ControlRange &range, V4l2ControlIds ids) {
+        const V4l2Control control(*device, ids);
+        if (const std::optional<ControlRange> answer = control.range()) {
+            range = *answer;
+            any = true;
+        }
+    };
+    read(caps->exposure, exposure);
+    read(caps->focus, focus);
+    read(caps->brightness, brightness);
+    read(caps->contrast, contrast);
+    read(caps->saturation, saturation);
+    read(caps->gain, gain);
+    read(caps->gamma, gammaCurve);
+    read(caps->whiteBalance, whiteBalance);
+    return any;
+}
+
+} // namespace meridax

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "camera/ICameraBackend.h"
+
+namespace meridax {
+
+/// Camera controls on Linux, by the kernel's own interface. Each call opens the device for itself,
+/// beside the stream, and closes it again.
+///
+/// The device is the node `cameraId` where it exists, else the first camera named `cameraName`
+/// ignoring case, else the one at `cameraIndex`. Exposure is in the driver's unit, for USB cameras
+/// 0.1 ms.
+///
+/// A control that has the wanted value and mode already counts as taken and is not written: reading
+/// is answered by the driver's memory, while each write is a slow transfer to the camera.
+class V4l2Backend final : public ICameraBackend
+{
+public:
+    bool applySettings(const CameraSettings &settings, QString *error) override;
+    bool queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
+                                 QString *error) override;
+};
+
+} // namespace meridax

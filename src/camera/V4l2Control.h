@@ -1,0 +1,61 @@
+#pragma once
+
+#include "camera/ControlRules.h"
+#include "camera/V4l2Device.h"
+
+#include <cerrno>
+#include <optional>
+
+namespace meridax {
+
+/// A control and the one that switches its automatic mode, 0 where V4L2 has none.
+struct V4l2ControlIds
+{
+    std::uint32_t value;
+    std::uint32_t mode;
+};
+
+/// One control of an open device together with its automatic mode. The device has to outlive it.
+class V4l2Control
+{
+public:
+    V4l2Control(const V4l2Device &device, V4l2ControlIds ids);
+
+    /// False where the device has no such control, or none that can be written.
+    bool exists() const { return m_error != EINVAL; }
+    /// Nothing where the device has failed to tell the range.
+    std::optional<ControlRange> range() const;
+
+    struct Outcome
+    {
+        bool taken = false;   ///< the control has the wanted value and mode now
+        bool touched = false; ///< something was written to the device
+    };
+
+    /// Brings the control to value and mode of `write`, writing only what differs.
+    Outcome apply(const ControlWrite &write);
+    ControlReadBack readBack() const;
+
+private:
+    bool isAutomatic() const;
+    bool switchTo(int mode);
+    Outcome applyAutomatic();
+    Outcome applyValue(int value);
+    bool holds(int value) const;
+
+    /// The control that switches the mode, and the values of its two modes.
+    struct Mode
+    {
+        V4l2Device::Control control;
+        int manual = 0;
+        int automatic = 1;
+    };
+    static std::optional<Mode> queryMode(const V4l2Device &device, std::uint32_t id);
+
+    const V4l2Device &m_device;
+    V4l2Device::Control m_control;
+    int m_error = 0; ///< of the last query of m_control
+    std::optional<Mode> m_mode;
+};
+
+} // namespace meridax
