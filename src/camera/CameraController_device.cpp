@@ -167,8 +167,11 @@ void CameraController::applyFocusValue(int value)
     QCamera &camera = *m_camera;
     CameraSettings settings = sweepSettings();
     settings.focusValue = value;
+    const bool backendFirst = controlOrder() == ControlOrder::BackendFirst;
+    if (backendFirst && backendTakes(settings))
+        return;
     camera.setFocusMode(QCamera::FocusModeManual);
-    if (!m_backend || !m_backend->applySettings(settings, nullptr))
+    if (backendFirst || !backendTakes(settings))
         camera.setFocusDistance(focusDistance(value, settings.focusRangeMax));
 }
 
