@@ -33,6 +33,7 @@ qt_add_qml_module(meridax_module
         src/camera/CameraController.cpp src/camera/CameraController.h
         src/camera/CameraController_device.cpp
         src/camera/CameraController_pipeline.cpp
+        src/camera/FrameWatchdog.cpp src/camera/FrameWatchdog.h
         src/items/FrameMapping.cpp src/items/FrameMapping.h
         src/items/SvgItem.cpp src/items/SvgItem.h
         src/items/VideoFrameItem.cpp src/items/VideoFrameItem.h

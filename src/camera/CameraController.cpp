@@ -16,6 +16,8 @@ CameraController::CameraController(QObject *parent)
     connect(&m_sink, &QVideoSink::videoFrameChanged, this, &CameraController::onVideoFrame);
     connect(&m_devices, &QMediaDevices::videoInputsChanged, this,
             &CameraController::onVideoInputsChanged);
+    connect(&m_watchdog, &FrameWatchdog::silent, this, &CameraController::onFramesSilent);
+    connect(&m_watchdog, &FrameWatchdog::failing, this, &CameraController::onFramesFailing);
     m_processingThread = std::thread(&CameraController::processingLoop, this);
 }
 

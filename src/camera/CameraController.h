@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/CameraCapabilities.h"
+#include "camera/FrameWatchdog.h"
 #include "camera/ICameraBackend.h"
 #include "settings/AppSettings.h"
 
@@ -68,6 +69,9 @@ public:
     void updateSettings(const AppSettings &settings);
     /// True when a camera exists and is active.
     bool isRunning() const;
+    /// Time without a frame, 5 s unless set, after which a running camera is warned about, or given
+    /// up where it answers with errors only. Takes effect at the next start.
+    void setFrameTimeout(std::chrono::milliseconds timeout) { m_watchdog.setLimit(timeout); }
     /// Copy of the last frame published by the live path. Any thread.
     QImage latestFrame() const;
 
@@ -136,6 +140,8 @@ private:
     void onActiveChanged(bool active);
     void onCameraError(const QString &errorText);
     void onVideoInputsChanged();
+    void onFramesSilent();
+    void onFramesFailing();
     void startCapabilityProbe();
     void capabilityProbe(const CameraSettings &settings);
     void deliverCapabilities(const CameraCapabilities &caps);
@@ -174,6 +180,7 @@ private:
     QCamera *m_camera = nullptr; ///< child of this; null while no camera is open
     QCameraDevice m_device;      ///< what m_camera was opened on
     QVideoSink m_sink;
+    FrameWatchdog m_watchdog;
     std::unique_ptr<ICameraBackend> m_backend; ///< may be null
     AppSettings m_settings;                    ///< GUI thread only
 

@@ -49,6 +49,7 @@ void CameraController::openCamera(const QCameraDevice &device)
 void CameraController::stopCamera()
 {
     cancelFocusSweep();
+    m_watchdog.stop();
     m_streaming = false;
     invalidateFramesInFlight();
 
@@ -70,6 +71,7 @@ void CameraController::onActiveChanged(bool active)
     emit runningChanged(active);
     if (!active || !m_camera)
         return;
+    m_watchdog.start();
     // Once more, now on the running stream: some devices take no value before it runs.
     applyCameraControls();
     if (!std::exchange(m_capabilitiesQueried, true))
@@ -86,6 +88,7 @@ void CameraController::onCameraError(const QString &errorText)
 
 void CameraController::closeCameraAfterFailure()
 {
+    m_watchdog.stop();
     QCamera *const camera = std::exchange(m_camera, nullptr);
     if (!camera)
         return;
@@ -102,6 +105,20 @@ void CameraController::onVideoInputsChanged()
     // an error, and further control calls on it crash (Qt 6.8). So the stream ends here.
     if (m_camera && !QMediaDevices::videoInputs().contains(m_device))
         onCameraError(QStringLiteral("Gerät nicht mehr vorhanden: %1").arg(m_device.description()));
+}
+
+void CameraController::onFramesSilent()
+{
+    qWarning().noquote() << "[camera] Kein Bild seit"
+                         << QStringLiteral("%1 s:").arg(m_watchdog.limit().count() / 1000.0)
+                         << m_device.description();
+}
+
+void CameraController::onFramesFailing()
+{
+    // Qt only repeats a warning in this case, as fast as the processor can (V4L2, Qt 6.8): the
+    // window would stay slow, and the log would fill up.
+    onCameraError(QStringLiteral("Gerät meldet nur noch Fehler: %1").arg(m_device.description()));
 }
 
 bool CameraController::deviceIsGone() const

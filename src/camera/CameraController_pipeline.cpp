@@ -12,6 +12,7 @@ void CameraController::onVideoFrame(const QVideoFrame &frame)
 {
     if (!frame.isValid())
         return;
+    m_watchdog.frameArrived();
     const bool calibration = isCalibrationActive();
     // The drop decision comes before any pixel is touched.
     if (m_frameInFlight.exchange(true))

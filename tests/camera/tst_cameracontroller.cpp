@@ -1,3 +1,4 @@
+#include "MessageRecorder.h"
 #include "SignalRecorder.h"
 #include "camera/CameraController.h"
 
@@ -6,6 +7,7 @@
 #include <QTest>
 
 using namespace meridax;
+using namespace std::chrono_literals;
 
 // Against the simulated camera, which Qt Multimedia takes for a USB camera.
 class TestCameraController : public QObject
@@ -15,9 +17,11 @@ class TestCameraController : public QObject
 private slots:
     void init()
     {
-        // A test that failed may have left it unplugged.
+        // Whatever the test before has left.
         if (QMediaDevices::videoInputs().isEmpty())
             simcam({QStringLiteral("plug")});
+        simcam({QStringLiteral("set"), QStringLiteral("controls=2"), QStringLiteral("stall=0"),
+                QStringLiteral("dqbuf-errno=0")});
         QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
     }
 
@@ -167,7 +171,110 @@ private slots:
         QVERIFY(controller.isRunning());
     }
 
+    void silentCameraIsWarnedAboutOnce()
+    {
+        CameraController controller;
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
+        controller.updateSettings(settingsFor(640, 480));
+        controller.setFrameTimeout(300ms);
+        controller.startCamera();
+        QTRY_VERIFY(frames.size() >= 1);
+        const MessageRecorder warnings(QtWarningMsg);
+        simcam({QStringLiteral("set"), QStringLiteral("stall=1")});
+        QTRY_COMPARE(warnings.lines(),
+                     QStringList("[camera] Kein Bild seit 0.3 s: Meridax Simulated Camera"));
+        simcam({QStringLiteral("set"), QStringLiteral("stall=0")});
+        const qsizetype before = frames.size();
+        QTRY_VERIFY(frames.size() > before);
+        QVERIFY(controller.isRunning());
+        QCOMPARE(warnings.lines().size(), 1);
+        simcam({QStringLiteral("set"), QStringLiteral("stall=1")});
+        QTRY_COMPARE(warnings.lines().size(), 2);
+        controller.stopCamera();
+    }
+
+    void failingCameraIsGivenUp()
+    {
+        CameraController controller;
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
+        const SignalRecorder errors(&controller, &CameraController::errorOccurred);
+        const SignalRecorder running(&controller, &CameraController::runningChanged);
+        controller.updateSettings(settingsFor(640, 480));
+        controller.setFrameTimeout(300ms);
+        controller.startCamera();
+        QTRY_VERIFY(frames.size() >= 1);
+        const MessageRecorder warnings(QtWarningMsg);
+        simcam({QStringLiteral("set"), QStringLiteral("dqbuf-errno=EIO")});
+        QTRY_COMPARE(errors.size(), 1);
+        QVERIFY(!controller.isRunning());
+        QCOMPARE(running.last()[0].toBool(), false);
+        QCOMPARE(warnings.lines().last(), "[camera] QCamera error: Gerät meldet nur noch Fehler: "
+                                          "Meridax Simulated Camera");
+        simcam({QStringLiteral("set"), QStringLiteral("dqbuf-errno=0")});
+        const qsizetype before = frames.size();
+        controller.startCamera();
+        QTRY_VERIFY(frames.size() > before);
+    }
+
+    // What Qt's camera class makes of the same values on V4L2 must not reach the device.
+    void valuesReachTheHardwareOfARunningCamera()
+    {
+        CameraController controller;
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
+        const SignalRecorder caps(&controller, &CameraController::cameraCapabilitiesDetected);
+        const SignalRecorder focusRanges(&controller, &CameraController::focusRangeDetected);
+        AppSettings settings = settingsFor(640, 480);
+        settings.camera.captureTimeMs = 200;
+        settings.camera.focusValue = 380;
+        controller.updateSettings(settings);
+        controller.startCamera();
+        QTRY_COMPARE(caps.size(), 1);
+        const auto detected = caps[0][0].value<CameraCapabilities>();
+        QCOMPARE(detected.gain, (ControlRange{0, 100, 1, 0, true, false}));
+        QCOMPARE(focusRanges.size(), 1);
+        QCOMPARE(focusRanges[0], (QVariantList{0, 1023}));
+        QTRY_VERIFY(frames.size() >= 1);
+
+        settings.camera.gain = 20;
+        settings.camera.focusValue = 400;
+        controller.updateSettings(settings);
+        QCOMPARE(control("auto_exposure"), 1);
+        QCOMPARE(control("exposure_time_absolute"), 200);
+        QCOMPARE(control("focus_automatic_continuous"), 0);
+        QCOMPARE(control("focus_absolute"), 400);
+        QCOMPARE(control("gain"), 20);
+
+        settings.camera.captureTimeMs = 1;
+        settings.camera.focusValue = 0;
+        controller.updateSettings(settings);
+        QCOMPARE(control("auto_exposure"), 3);
+        QCOMPARE(control("focus_automatic_continuous"), 1);
+        QCOMPARE(control("focus_absolute"), 400);
+    }
+
+    void cameraWithoutControlsFallsBack()
+    {
+        simcam({QStringLiteral("set"), QStringLiteral("controls=0")});
+        CameraController controller;
+        const SignalRecorder frames(&controller, &CameraController::frameReady);
+        const SignalRecorder caps(&controller, &CameraController::cameraCapabilitiesDetected);
+        const MessageRecorder messages(QtInfoMsg);
+        controller.updateSettings(settingsFor(640, 480));
+        controller.startCamera();
+        QTRY_COMPARE(messages.lines(),
+                     QStringList("[CameraCaps] queryCameraCapabilities returned false — UI fällt "
+                                 "auf Default-Ranges zurück"));
+        QTRY_VERIFY(frames.size() >= 1);
+        QCOMPARE(caps.size(), 0);
+    }
+
 private:
+    static int control(const char *name)
+    {
+        return simcam({QStringLiteral("get"), QStringLiteral("control.") + QLatin1String(name)})
+            .toInt();
+    }
+
     static AppSettings settingsFor(int width, int height)
     {
         AppSettings settings;
