@@ -27,7 +27,7 @@ ColumnLayout {
         onMoved: newValue => { ViewModel.blobMaxThreshold = newValue; }
     }
 
-    FilterSwitch {
+    HelpSwitch {
         objectName: "filterArea"
         label: qsTr("Filter Area")
         tooltipText: qsTr("Filtert erkannte Punkte nach Größe. Schließt zu kleine oder zu große Flecken aus.")
@@ -59,7 +59,7 @@ ColumnLayout {
         onMoved: newValue => { ViewModel.blobMaxArea = newValue; }
     }
 
-    FilterSwitch {
+    HelpSwitch {
         objectName: "filterCircularity"
         label: qsTr("Filter Circularity")
         tooltipText: qsTr("Filtert nach Rundheit. Verhindert dass kantige oder unförmige Flecken erkannt werden.")
@@ -78,7 +78,7 @@ ColumnLayout {
         onMoved: newValue => { ViewModel.blobMinCircularity = newValue / 100.0; }
     }
 
-    FilterSwitch {
+    HelpSwitch {
         label: qsTr("Filter Inertia")
         tooltipText: qsTr("Filtert nach Form-Symmetrie. Schließt langgestreckte oder elliptische Flecken aus.")
         checked: ViewModel.blobFilterInertia

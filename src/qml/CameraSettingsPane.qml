@@ -3,7 +3,7 @@ import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Meridax
 
-/// Choice of camera and resolution.
+/// Choice of camera and resolution, the camera's picture properties, centre and view.
 Pane {
     id: root
 
@@ -36,25 +36,11 @@ Pane {
                 onActivated: index => { ViewModel.selectedCameraIndex = index; }
             }
 
-            RoundButton {
+            RoundIconButton {
                 objectName: "refreshCamerasButton"
-                implicitWidth: 32
-                implicitHeight: 32
-                topInset: 0
-                bottomInset: 0
-                leftInset: 0
-                rightInset: 0
-                padding: 0
-                flat: true
+                toolTip: qsTr("Aktualisieren")
                 icon.source: "qrc:/resources/icon_refresh.svg"
-                icon.width: 18
-                icon.height: 18
                 enabled: !ViewModel.running
-                Accessible.role: Accessible.Button
-                Accessible.name: ToolTip.text
-                ToolTip.visible: hovered && ViewModel.showTooltips
-                ToolTip.delay: 400
-                ToolTip.text: qsTr("Aktualisieren")
                 onClicked: ViewModel.refreshCameras()
             }
         }
@@ -81,6 +67,37 @@ Pane {
             enabled: !ViewModel.running
             Accessible.description: qsTr("Auflösung")
             onActivated: index => { ViewModel.selectedResolutionIndex = index; }
+        }
+
+        CollapsibleSection {
+            objectName: "propertiesSection"
+            Layout.fillWidth: true
+            title: qsTr("Kamera-Eigenschaften")
+            persistKey: "cameraProps"
+            topPadding: 12
+            separator: false
+            contentEnabled: ViewModel.running
+
+            CameraControls {
+                Layout.fillWidth: true
+            }
+        }
+
+        CollapsibleSection {
+            objectName: "centerSection"
+            Layout.fillWidth: true
+            title: qsTr("Zentrum & Ansicht")
+            persistKey: "centerView"
+            topPadding: 12
+            headerRight: [
+                LockButton {
+                    objectName: "lockButton"
+                }
+            ]
+
+            CenterAndView {
+                Layout.fillWidth: true
+            }
         }
     }
 }

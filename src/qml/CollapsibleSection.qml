@@ -57,11 +57,16 @@ ColumnLayout {
         objectName: "sectionHeader"
         Layout.fillWidth: true
         Layout.topMargin: root.topPadding
-        implicitHeight: headerRow.implicitHeight
+        // Room for tall controls between the line above and the value below.
+        implicitHeight: headerRow.implicitHeight + 8
 
-        // Under the row: the chevron and the header's own controls keep their clicks.
+        // Under the row, so that the chevron keeps its clicks, and not under the header's own
+        // controls: a click on one that is disabled folds nothing.
         MouseArea {
-            anchors.fill: parent
+            anchors {
+                fill: parent
+                rightMargin: headerControls.width
+            }
             onClicked: root.toggle()
         }
 

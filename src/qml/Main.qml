@@ -235,6 +235,19 @@ ApplicationWindow {
         }
     }
 
+    RightOverlayPanel {
+        id: rightPanel
+
+        objectName: "rightPanel"
+        anchors {
+            right: parent.right
+            top: topBar.bottom
+            topMargin: 16
+            bottom: footerBar.top
+            bottomMargin: 16
+        }
+    }
+
     CenterDialog {
         id: centerDialog
 

@@ -15,8 +15,9 @@ Flickable {
         const margin = 8;
         if (top - margin < contentY)
             contentY = Math.max(0, top - margin);
-        else if (bottom + margin > contentY + height)
-            contentY = Math.min(Math.max(0, contentHeight - height), bottom + margin - height);
+        else if (bottom + margin > contentY + height - bottomMargin)
+            contentY = Math.min(Math.max(0, contentHeight + bottomMargin - height),
+                                bottom + margin + bottomMargin - height);
     }
 
     function _isInside(item: Item): bool {
@@ -29,6 +30,8 @@ Flickable {
 
     contentWidth: width
     boundsBehavior: Flickable.StopAtBounds
+    // In a narrow window the zoom control lies over the lower edge: the last row has to come free.
+    bottomMargin: 24
     clip: true
 
     on_FocusItemChanged: _showFocusItem()

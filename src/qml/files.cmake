@@ -5,9 +5,11 @@ set(meridax_qml_public
     src/qml/Theme.qml
     src/qml/Main.qml
     src/qml/LeftSettingsPanel.qml
+    src/qml/RightOverlayPanel.qml
     src/qml/CameraSettingsPane.qml
     src/qml/ResidualPlot.qml
     src/qml/CollapsibleSection.qml
+    src/qml/OverlaySettingsPane.qml
     src/qml/CalibrationPane.qml
     src/qml/SectionLabel.qml
     src/qml/SettingsSlider.qml
@@ -22,11 +24,16 @@ set(meridax_qml_internal
     src/qml/BarSeparator.qml
     src/qml/BlobParameters.qml
     src/qml/CalibrationHint.qml
+    src/qml/CameraControlSlider.qml
+    src/qml/CameraControls.qml
+    src/qml/CenterAndView.qml
     src/qml/CenterCanvas.qml
     src/qml/CenterDiagram.qml
     src/qml/CenterDialog.qml
     src/qml/CenterFigures.qml
+    src/qml/ComboRow.qml
     src/qml/CompactSpinBox.qml
+    src/qml/CompactSwitch.qml
     src/qml/CountRow.qml
     src/qml/FadingRing.qml
     src/qml/FadingToast.qml
@@ -34,15 +41,17 @@ set(meridax_qml_internal
     src/qml/FigureCaption.qml
     src/qml/FigureValue.qml
     src/qml/FilledButton.qml
-    src/qml/FilterSwitch.qml
     src/qml/FitTable.qml
     src/qml/FocusFrame.qml
     src/qml/FocusTapArea.qml
     src/qml/GuideSector.qml
+    src/qml/HelpSwitch.qml
     src/qml/HelpTip.qml
     src/qml/InputShield.qml
     src/qml/LegendEntry.qml
+    src/qml/LineStyleRow.qml
     src/qml/LiveView.qml
+    src/qml/LockButton.qml
     src/qml/MeasureButton.qml
     src/qml/MeasurementRow.qml
     src/qml/MeasurementTable.qml
@@ -50,7 +59,10 @@ set(meridax_qml_internal
     src/qml/OverlayCanvas.qml
     src/qml/PanelFlickable.qml
     src/qml/PanelHandle.qml
+    src/qml/PanelTabBar.qml
+    src/qml/PanelTabButton.qml
     src/qml/QualityStrip.qml
+    src/qml/RoundIconButton.qml
     src/qml/RoundnessCanvas.qml
     src/qml/RoundnessDiagram.qml
     src/qml/ScaleButton.qml
@@ -58,6 +70,7 @@ set(meridax_qml_internal
     src/qml/ScreenshotFolderDialog.qml
     src/qml/SectionChevron.qml
     src/qml/SelectionComboBox.qml
+    src/qml/SidePanel.qml
     src/qml/SliderValueDisplay.qml
     src/qml/SliderValueEditor.qml
     src/qml/StatusBar.qml

@@ -5,14 +5,14 @@ import Meridax
 TestCase {
     id: testCase
 
-    name: "LeftSettingsPanel"
+    name: "SidePanels"
     when: windowShown
     width: 600
     height: 400
     visible: true
 
     property int leaked: 0
-    property LeftSettingsPanel panel: null
+    property Item panel: null
 
     // Stands for the picture under the panel.
     MouseArea {
@@ -22,9 +22,17 @@ TestCase {
     }
 
     Component {
-        id: panelComponent
+        id: leftComponent
 
         LeftSettingsPanel {
+            height: 400
+        }
+    }
+
+    Component {
+        id: rightComponent
+
+        RightOverlayPanel {
             height: 400
         }
     }
@@ -36,10 +44,17 @@ TestCase {
     function init() {
         failOnWarning(/.?/);
         ViewModel.cameraPanelExpandedAtStart = true;
+        ViewModel.overlayPanelExpandedAtStart = true;
         ViewModel.setSectionCollapsed("blobParams", false);
-        panel = createTemporaryObject(panelComponent, testCase);
-        verify(waitForRendering(panel));
+        open(leftComponent);
         leaked = 0;
+    }
+
+    function open(component: Component) {
+        if (panel)
+            panel.destroy();
+        panel = createTemporaryObject(component, testCase);
+        verify(waitForRendering(panel));
     }
 
     function part(name: string): Item {
@@ -48,32 +63,52 @@ TestCase {
         return found;
     }
 
-    function test_startState() {
-        compare(panel.width, 428);
+    function sides(): var {
+        return [{ tag: "left", component: leftComponent, setting: "cameraPanelExpandedAtStart",
+                  width: 428, inner: "cameraPage", symbols: "‹›" },
+                { tag: "right", component: rightComponent, setting: "overlayPanelExpandedAtStart",
+                  width: 368, inner: "overlayPage", symbols: "›‹" }];
+    }
+
+    function test_startState_data() { return sides(); }
+    function test_startState(data) {
+        open(data.component);
+        compare(panel.width, data.width);
         // The setting tells how the window opens; an open panel stays as it is.
-        ViewModel.cameraPanelExpandedAtStart = false;
+        ViewModel[data.setting] = false;
         verify(panel.expanded);
-        compare(createTemporaryObject(panelComponent, testCase).width, 28);
+        compare(createTemporaryObject(data.component, testCase).width, 28);
     }
 
     function test_folding_data() {
-        return [{ tag: "click", act: handle => mouseClick(handle) },
-                { tag: "space",
-                  act: handle => { handle.forceActiveFocus(); keyClick(Qt.Key_Space); } },
-                { tag: "return",
-                  act: handle => { handle.forceActiveFocus(); keyClick(Qt.Key_Return); } }];
+        const ways = [
+            { tag: "click", act: handle => mouseClick(handle) },
+            { tag: "space",
+              act: handle => { handle.forceActiveFocus(); keyClick(Qt.Key_Space); } },
+            { tag: "return",
+              act: handle => { handle.forceActiveFocus(); keyClick(Qt.Key_Return); } }
+        ];
+        const rows = [];
+        for (const side of sides()) {
+            for (const way of ways)
+                rows.push(Object.assign({}, side, way, { tag: `${side.tag} by ${way.tag}` }));
+        }
+        return rows;
     }
 
     function test_folding(data) {
+        open(data.component);
+        compare(part("panelHandle").symbol, data.symbols[0]);
         data.act(part("panelHandle"));
         verify(!panel.expanded);
+        compare(part("panelHandle").symbol, data.symbols[1]);
         tryCompare(panel, "width", 28);
         // Nothing that is out of sight can be reached by the keyboard.
-        verify(!part("cameraSelector").visible);
-        verify(ViewModel.cameraPanelExpandedAtStart);
+        verify(!part(data.inner).visible);
+        verify(ViewModel[data.setting]);
         data.act(part("panelHandle"));
-        tryCompare(panel, "width", 428);
-        verify(part("cameraSelector").visible);
+        tryCompare(panel, "width", data.width);
+        verify(part(data.inner).visible);
     }
 
     function test_tabs() {
@@ -91,18 +126,24 @@ TestCase {
     }
 
     function test_nothingReachesThePicture_data() {
-        return [{ tag: "camera page", tab: 0, x: 200, y: 300 },
-                { tag: "calibration page", tab: 1, x: 200, y: 300 },
-                { tag: "tab bar", tab: 0, x: 100, y: 20 },
-                { tag: "beside the handle", tab: 0, x: 414, y: 20 }];
+        return [{ tag: "camera page", x: 60, y: 300 },
+                { tag: "calibration page", tab: 1, x: 60, y: 300 },
+                { tag: "tab bar", x: 100, y: 20 },
+                { tag: "beside the handle", x: 414, y: 20 },
+                { tag: "overlay page", right: true, x: 60, y: 300 },
+                { tag: "right tab bar", right: true, x: 100, y: 20 },
+                { tag: "beside the right handle", right: true, x: 14, y: 20 }];
     }
 
     function test_nothingReachesThePicture(data) {
-        panel.currentTab = data.tab;
+        if (data.right)
+            open(rightComponent);
+        if (data.tab)
+            panel.currentTab = data.tab;
         // Sideways first: a handler that has just turned takes any direction.
         for (const [dx, dy] of [[120, 0], [0, 120], [0, -120]])
             mouseWheel(panel, data.x, data.y, dx, dy);
-        if (data.x < panel.contentWidth)
+        if (data.x > panel.handleWidth && data.x < panel.contentWidth)
             mouseClick(panel, data.x, data.y);
         compare(leaked, 0);
         mouseWheel(testCase, 500, 200, 0, 120);

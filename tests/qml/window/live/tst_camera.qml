@@ -89,6 +89,7 @@ TestCase {
     function test_marksUnderPanelAndBarsAreOutOfReach_data() {
         return [
             { tag: "left panel", name: "leftPanel" },
+            { tag: "right panel", name: "rightPanel" },
             { tag: "top bar", name: "topBar" },
             { tag: "status bar", name: "footerBar" },
             { tag: "zoom control", name: "zoomControl" }

@@ -183,10 +183,11 @@ TestCase {
     }
 
     function test_wheelZooms() {
+        ViewModel.saveWindowGeometry(0, 0, 1200, 800, false);
         open();
         ViewModel.zoom = 1;
         const area = item("captureArea");
-        const x = area.width - 60;
+        const x = area.width / 2;
         mouseWheel(area, x, 300, 0, 120);
         fuzzyCompare(ViewModel.zoom, 1.05, 1e-9);
         mouseWheel(area, x, 300, 0, 720); // the size of the step does not count
@@ -197,6 +198,37 @@ TestCase {
         ViewModel.zoom = 4.98;
         mouseWheel(area, x, 300, 0, 120);
         compare(ViewModel.zoom, 5);
+    }
+
+    function test_wheelOverThePanelsDoesNotZoom() {
+        open();
+        ViewModel.zoom = 2;
+        for (const name of ["leftPanel", "rightPanel"]) {
+            const panel = item(name);
+            for (const y of [20, panel.height / 2, panel.height - 10])
+                mouseWheel(panel, panel.width / 2, y, 0, -120);
+        }
+        compare(ViewModel.zoom, 2);
+    }
+
+    function test_pickingAColor_data() {
+        return [{ tag: "accepted", accepts: true }, { tag: "cancelled", accepts: false }];
+    }
+    function test_pickingAColor(data) {
+        open();
+        const button = findChild(item("circle2Section"), "colorButton");
+        const dialog = findChild(button, "colorDialog");
+        ViewModel.circle2Enabled = true;
+        ViewModel.circle2Color = "#102030";
+        mouseClick(button);
+        tryCompare(dialog, "visible", true);
+        compare(dialog.parentWindow, window);
+        compare(dialog.selectedColor, "#102030");
+        dialog.selectedColor = "#ff8800";
+        data.accepts ? dialog.accept() : dialog.reject();
+        tryCompare(dialog, "visible", false);
+        compare(button.color, data.accepts ? "#ff8800" : "#102030");
+        compare(ViewModel.circle2Color, button.color);
     }
 
     function test_verdict_data() {

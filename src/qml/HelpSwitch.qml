@@ -16,32 +16,13 @@ RowLayout {
 
     spacing: 5
 
-    Switch {
-        id: control
+    CompactSwitch {
         objectName: "switch"
-        implicitHeight: 32
-        leftPadding: 0
-        rightPadding: 0
-        topPadding: 0
-        bottomPadding: 0
         text: root.label
-        font.pixelSize: 12
-        Material.accent: "#4A9ECA"
+        shownChecked: root.checked
         Material.foreground: Theme.rowLabelEnabled
-
-        Accessible.role: Accessible.CheckBox
-        Accessible.name: root.label
         Accessible.description: root.tooltipText
-        Accessible.checked: control.checked
-
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
-        onToggled: root.chosen(control.checked)
-
-        Binding on checked {
-            value: root.checked
-            restoreMode: Binding.RestoreNone
-        }
+        onChosen: checked => root.chosen(checked)
     }
 
     InfoTooltip {

@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Controls.Material
+import Meridax
+
+/// Flat round button with an icon of 18 pixels; its tool tip tells what it does.
+RoundButton {
+    id: root
+
+    required property string toolTip
+
+    implicitWidth: 32
+    implicitHeight: 32
+    topInset: 0
+    bottomInset: 0
+    leftInset: 0
+    rightInset: 0
+    padding: 0
+    flat: true
+    icon.width: 18
+    icon.height: 18
+
+    Accessible.role: Accessible.Button
+    Accessible.name: toolTip
+
+    ToolTip.visible: hovered && ViewModel.showTooltips
+    ToolTip.delay: 400
+    ToolTip.text: toolTip
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+}
