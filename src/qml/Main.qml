@@ -196,7 +196,7 @@ ApplicationWindow {
         anchors {
             top: topBar.bottom
             topMargin: 12
-            right: parent.right
+            right: rightPanel.left
             rightMargin: 12
         }
         target: captureArea

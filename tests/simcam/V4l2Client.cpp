@@ -1,5 +1,6 @@
 #include "V4l2Client.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
@@ -71,7 +72,7 @@ int V4l2Client::start(quint32 memory, unsigned count)
     if (const int error = request(VIDIOC_REQBUFS, &buffers))
         return error;
     m_memory = memory;
-    for (unsigned i = 0; i < buffers.count; ++i) {
+    for (unsigned i = 0; i < std::min(buffers.count, count); ++i) {
         v4l2_buffer info{};
         info.type = V4L2_BUF_TYPE_VIDEO_CAPTURE;
         info.memory = memory;
@@ -112,6 +113,21 @@ void V4l2Client::stop()
 
 CapturedFrame V4l2Client::take(int timeoutMs)
 {
+    unsigned index = 0;
+    CapturedFrame frame = dequeue(timeoutMs, index);
+    if (!frame.error)
+        frame.error = queue(index);
+    return frame;
+}
+
+CapturedFrame V4l2Client::takeAndKeep(int timeoutMs)
+{
+    unsigned index = 0;
+    return dequeue(timeoutMs, index);
+}
+
+CapturedFrame V4l2Client::dequeue(int timeoutMs, unsigned &index)
+{
     CapturedFrame frame;
     pollfd wait{m_fd, POLLIN, 0};
     if (::poll(&wait, 1, timeoutMs) != 1) {
@@ -129,6 +145,6 @@ CapturedFrame V4l2Client::take(int timeoutMs)
     frame.sequence = buffer.sequence;
     frame.isFaulty = buffer.flags & V4L2_BUF_FLAG_ERROR;
     frame.timestamp = double(buffer.timestamp.tv_sec) + 1e-6 * double(buffer.timestamp.tv_usec);
-    frame.error = queue(buffer.index);
+    index = buffer.index;
     return frame;
 }

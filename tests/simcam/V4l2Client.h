@@ -33,16 +33,19 @@ public:
     int setControl(quint32 id, int value) const;
     int control(quint32 id) const;
 
-    /// Requests and queues `count` buffers of V4L2_MEMORY_* kind `memory` and starts.
+    /// Requests `count` buffers of V4L2_MEMORY_* kind `memory`, queues that many and starts.
     int start(quint32 memory = V4L2_MEMORY_MMAP, unsigned count = 2);
     void stop();
 
     /// Waits at most `timeoutMs` for a frame, takes it and queues its buffer again. The error is
     /// ETIMEDOUT if none came.
     CapturedFrame take(int timeoutMs = 5000);
+    /// As take(), but keeps the buffer: one frame less can be rendered.
+    CapturedFrame takeAndKeep(int timeoutMs = 5000);
 
 private:
     int queue(unsigned index) const;
+    CapturedFrame dequeue(int timeoutMs, unsigned &index);
 
     struct Buffer
     {

@@ -175,7 +175,7 @@ void tst_simcamStream::markIsWhereTheTruthSays()
         // A stream of its own for each angle, with a single buffer: its first frame holds the
         // angle, and it is the last one rendered when the truth is asked.
         QCOMPARE(camera.start(V4L2_MEMORY_MMAP, 1), 0);
-        const CapturedFrame frame = camera.take();
+        const CapturedFrame frame = camera.takeAndKeep();
         camera.stop();
         QCOMPARE(frame.error, 0);
         const auto truth = simcamValues("truth");
@@ -226,7 +226,7 @@ void tst_simcamStream::turnIsSeenInTheNextFrames()
 
 void tst_simcamStream::autoTurnVisitsItsPositions()
 {
-    QCOMPARE(simcam({"auto-turn", "4", "--dwell", "0.3", "--move", "0"}).exitCode, 0);
+    QCOMPARE(simcam({"auto-turn", "4", "--dwell", "1", "--move", "0"}).exitCode, 0);
     for (const double angle : {-45.0, -135.0, 135.0, 45.0, -45.0})
         QTRY_COMPARE(simcamValues("truth")["angle"].toDouble(), angle);
     QCOMPARE(simcam({"auto-turn", "off"}).exitCode, 0);

@@ -53,6 +53,8 @@ TestCase {
     function start() {
         ViewModel.startCamera();
         tryCompare(ViewModel, "running", true, 20000);
+        // What the camera reports must not come in the middle of the next case.
+        tryCompare(ViewModel, "exposureSupported", true, 20000);
     }
 
     function type(target: SettingsSlider, text: string) {
