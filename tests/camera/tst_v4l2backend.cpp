@@ -166,6 +166,31 @@ private slots:
         QCOMPARE(V4l2Client().control(V4L2_CID_CONTRAST), settings.contrast);
     }
 
+    void costOfACall_data()
+    {
+        QTest::addColumn<bool>("changes");
+        QTest::addColumn<int>("requests"); // for controls, without opening and closing the device
+        QTest::newRow("nothing changed") << false << 19;
+        QTest::newRow("focus changed") << true << 20;
+    }
+
+    void costOfACall()
+    {
+        QFETCH(bool, changes);
+        QFETCH(int, requests);
+        CameraSettings settings = manualSettings();
+        QVERIFY(m_backend.applySettings(settings, nullptr));
+        const int before = counter("control-calls");
+        settings.focusValue += changes;
+        QVERIFY(m_backend.applySettings(settings, nullptr));
+        QCOMPARE(counter("control-calls") - before, requests);
+        QBENCHMARK
+        {
+            settings.focusValue += changes;
+            m_backend.applySettings(settings, nullptr);
+        }
+    }
+
     void clampedAndLogged()
     {
         CameraSettings settings = manualSettings();
