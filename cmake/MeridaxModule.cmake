@@ -47,6 +47,7 @@ qt_add_qml_module(meridax_module
         src/viewmodel/CameraViewModel_camera.cpp
         src/viewmodel/CameraViewModel_focus.cpp
         src/viewmodel/CameraViewModel_overlay.cpp
+        src/viewmodel/CameraViewModel_presets.cpp
         src/viewmodel/CameraViewModel_profile.cpp
         src/viewmodel/CameraViewModel_screenshot.cpp
         src/viewmodel/CameraViewModel_settings.cpp

@@ -175,6 +175,18 @@ ApplicationWindow {
         }
     }
 
+    FocusPresetOverlay {
+        objectName: "focusPresetOverlay"
+        z: 6
+        visible: ViewModel.running
+        anchors {
+            top: topBar.bottom
+            topMargin: 12
+            left: leftPanel.right
+            leftMargin: 12
+        }
+    }
+
     ZoomControl {
         id: zoomControl
 
@@ -221,6 +233,8 @@ ApplicationWindow {
         hold: 2400
         fadeOut: 300
     }
+
+    TypingEnd { }
 
     LeftSettingsPanel {
         id: leftPanel

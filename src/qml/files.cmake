@@ -16,6 +16,7 @@ set(meridax_qml_public
     src/qml/SettingsSpinBox.qml
     src/qml/SettingsComboBox.qml
     src/qml/InfoTooltip.qml
+    src/qml/FocusPresetOverlay.qml
 )
 
 # Parts of the types above. They have no entry in the module's qmldir and are found through the
@@ -43,7 +44,10 @@ set(meridax_qml_internal
     src/qml/FilledButton.qml
     src/qml/FitTable.qml
     src/qml/FocusFrame.qml
+    src/qml/FocusPresetChip.qml
     src/qml/FocusTapArea.qml
+    src/qml/FocusTapButton.qml
+    src/qml/GlyphButton.qml
     src/qml/GuideSector.qml
     src/qml/HelpSwitch.qml
     src/qml/HelpTip.qml
@@ -56,7 +60,9 @@ set(meridax_qml_internal
     src/qml/MeasurementRow.qml
     src/qml/MeasurementTable.qml
     src/qml/ModalDim.qml
+    src/qml/OverlayButton.qml
     src/qml/OverlayCanvas.qml
+    src/qml/OverlayTextField.qml
     src/qml/PanelFlickable.qml
     src/qml/PanelHandle.qml
     src/qml/PanelTabBar.qml
@@ -77,6 +83,7 @@ set(meridax_qml_internal
     src/qml/StepButton.qml
     src/qml/SweepIndicator.qml
     src/qml/TopBar.qml
+    src/qml/TypingEnd.qml
     src/qml/ValuePill.qml
     src/qml/Watermark.qml
     src/qml/WindowBackground.qml

@@ -21,6 +21,7 @@ CameraViewModel::CameraViewModel()
     m_saveTimer.setSingleShot(true);
     m_saveTimer.setInterval(400ms);
 
+    connectFocusPresets();
     m_settings = loadSettings();
     // A centre in pixels counts only for the camera and resolution it was measured with, which
     // nobody knows before the camera runs. The lock is the user's own and stays.

@@ -3,6 +3,7 @@
 #include "camera/CameraCapabilities.h"
 #include "camera/CameraController.h"
 #include "settings/AppSettings.h"
+#include "settings/FocusPreset.h"
 #include "viewmodel/CameraList.h"
 
 #include <QColor>
@@ -95,6 +96,13 @@ class CameraViewModel : public QObject
                    focusTapModeChanged)
     Q_PROPERTY(bool focusSweepActive READ focusSweepActive NOTIFY focusSweepChanged)
     Q_PROPERTY(double focusSweepFraction READ focusSweepFraction NOTIFY focusSweepProgressChanged)
+
+    // Focus presets; maps with the keys "name", "focusValue" and "hasMarkers"
+    Q_PROPERTY(QVariantList focusPresets READ focusPresets NOTIFY focusPresetsChanged)
+    Q_PROPERTY(
+        int activeFocusPresetIndex READ activeFocusPresetIndex NOTIFY focusPresetActiveChanged)
+    Q_PROPERTY(
+        bool activeFocusPresetDirty READ activeFocusPresetDirty NOTIFY focusPresetActiveChanged)
 
     // Calibration
     Q_PROPERTY(bool calibrationActive READ calibrationActive NOTIFY calibrationActiveChanged)
@@ -251,6 +259,10 @@ public:
     bool focusSweepActive() const { return m_focusSweepActive; }
     double focusSweepFraction() const { return m_focusSweepFraction; }
 
+    QVariantList focusPresets() const;
+    int activeFocusPresetIndex() const { return m_activeFocusPresetIndex; }
+    bool activeFocusPresetDirty() const { return m_activeFocusPresetDirty; }
+
     bool calibrationActive() const { return m_calibrationActive; }
     int currentGuideIndex() const { return m_currentGuideIndex; }
     int totalGuidePositions() const { return m_totalGuidePositions; }
@@ -343,6 +355,16 @@ public slots:
     /// Remembers the window's normal geometry (screen pixels) and writes the file at once. Below
     /// 400 x 400 only `maximized` is taken.
     void saveWindowGeometry(int x, int y, int width, int height, bool maximized);
+    /// Keeps focus, camera values, zoom and, by the setting, circles and crosshair under the
+    /// trimmed name, or under a number in place of an empty one.
+    void addFocusPreset(const QString &name);
+    /// Goes back to the values of a preset, which becomes the active one.
+    void applyFocusPreset(int index);
+    void removeFocusPreset(int index);
+    /// An empty name changes nothing.
+    void renameFocusPreset(int index, const QString &newName);
+    /// Captures the present values anew under the preset's name.
+    void updateFocusPreset(int index);
     /// Saves the last frame without the overlay; the path of the file, empty on failure.
     QString captureScreenshot() const;
     /// The path for the next screenshot, whose folder exists then; empty on failure.
@@ -385,6 +407,8 @@ signals:
     void focusTapRequested(double frameX, double frameY);
     /// A sweep ended with that FocusOutcome; its focus value is stored by then.
     void focusSweepFeedback(int outcome);
+    void focusPresetsChanged();
+    void focusPresetActiveChanged();
     void calibrationActiveChanged();
     void guideStateChanged();
     void measurementsChanged();
@@ -409,6 +433,7 @@ private:
     void connectController();
     void connectCalibration();
     void connectFocus();
+    void connectFocusPresets();
 
     /// The common end of a setter that concerns the camera: the controller takes the whole record,
     /// the interface hears of it, the file is written after the last of a burst of changes.
@@ -434,6 +459,10 @@ private:
 
     void storeControl(int &field, int value, const ControlRange &range);
     void storeCenter(double &coordinate, double value);
+    bool hasFocusPreset(int index) const;
+    void clearFocusPresets();
+    void compareWithFocusPreset();
+
     void storeCalibrated(bool calibrated);
     void storeLocked(bool locked);
     void storeCalibrationActive(bool active);
@@ -481,6 +510,10 @@ private:
     bool m_focusTapModeActive = false;
     bool m_focusSweepActive = false;
     double m_focusSweepFraction = 0.0;
+
+    QList<FocusPreset> m_focusPresets;
+    int m_activeFocusPresetIndex = -1;
+    bool m_activeFocusPresetDirty = false;
 
     bool m_calibrationActive = false;
     int m_currentGuideIndex = 0;

@@ -66,6 +66,7 @@ void CameraViewModel::setSelectedCameraIndex(int index)
     if (!previousId.isEmpty() && previousId != m_settings.camera.cameraId) {
         forgetRestoredProfile();
         resetCameraValues();
+        clearFocusPresets();
     }
     snapToNearestFormat();
     m_controller.updateSettings(m_settings);

@@ -102,17 +102,21 @@ private slots:
 
         viewModel->setBrightness(30);
         viewModel->setGain(5);
+        viewModel->addFocusPreset("der ersten Kamera");
         emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
         viewModel->acceptPendingCenter();
         const int second = int(viewModel->cameraNames().indexOf("Zweite"));
         viewModel->setSelectedCameraIndex(2);
         QCOMPARE(viewModel->brightness(), 30);
+        QCOMPARE(viewModel->focusPresets().size(), 1);
         QSignalSpy list(viewModel.get(), &CameraViewModel::cameraListChanged);
         viewModel->setSelectedCameraIndex(second);
         QCOMPARE(list.size(), 1);
         QCOMPARE(viewModel->selectedCameraName(), "Zweite");
         QCOMPARE(viewModel->brightness(), 0);
         QCOMPARE(viewModel->gain(), 5);
+        QVERIFY(viewModel->focusPresets().isEmpty());
+        QCOMPARE(viewModel->activeFocusPresetIndex(), -1);
         QVERIFY(!viewModel->calibrated());
         QVERIFY(!viewModel->locked());
         QTRY_COMPARE(loadSettings().camera.cameraName, "Zweite");

@@ -65,6 +65,28 @@ TestCase {
         verify(item("watermark").visible);
     }
 
+    // The presets of a camera are there again when it is started again.
+    function test_presetsLieBesideThePanel() {
+        const presets = item("focusPresetOverlay");
+        const panel = item("leftPanel");
+        verify(presets.visible);
+        ViewModel.addFocusPreset("eins");
+        compare(presets.x, panel.width + 12);
+        panel.expanded = false;
+        tryCompare(presets, "x", panel.handleWidth + 12);
+        panel.expanded = true;
+        tryCompare(presets, "x", panel.width + 12);
+
+        ViewModel.stopCamera();
+        tryCompare(ViewModel, "running", false);
+        verify(!presets.visible);
+        ViewModel.startCamera();
+        tryCompare(ViewModel, "running", true, 20000);
+        verify(presets.visible);
+        compare(ViewModel.focusPresets.length, 1);
+        ViewModel.removeFocusPreset(0);
+    }
+
     function test_zoomControlCanBeSwitchedOff() {
         ViewModel.showZoomOverlay = false;
         verify(!item("zoomControl").visible);

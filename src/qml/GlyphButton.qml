@@ -1,0 +1,44 @@
+import QtQuick
+import QtQuick.Controls.Material
+import Meridax
+
+/// A small button of one character on a chip; it fills when it is pointed at.
+AbstractButton {
+    id: root
+
+    required property color glyphColor
+    required property color hoverColor
+    required property string toolTip
+
+    focusPolicy: Qt.TabFocus
+    font.bold: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: toolTip
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    background: Rectangle {
+        radius: width / 2
+        color: root.hovered ? root.hoverColor : "transparent"
+
+        FocusFrame {
+            radius: height / 2
+            visible: root.visualFocus
+        }
+    }
+    contentItem: Label {
+        text: root.text
+        font: root.font
+        color: root.hovered ? "white" : root.glyphColor
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    HelpTip {
+        visible: root.hovered && ViewModel.showTooltips
+        delay: 400
+        text: root.toolTip
+    }
+}
