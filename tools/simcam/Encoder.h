@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Scene.h"
+#include "Planes.h"
 
 #include <span>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "Encoder.h"
 #include "PixelNoise.h"
 #include "Playback.h"
+#include "Scene.h"
 
 #include <optional>
 #include <span>

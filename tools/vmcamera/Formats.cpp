@@ -1,0 +1,32 @@
+#include "Formats.h"
+
+namespace meridax::vmcamera {
+
+namespace {
+
+constexpr unsigned kFast[] = {30, 15};
+constexpr unsigned kLarge[] = {30};
+constexpr unsigned kSlow[] = {10, 5};
+
+constexpr FrameMode kMjpeg[] = {
+    {640, 480, kFast},
+    {1280, 720, kFast},
+    {1920, 1080, kLarge},
+};
+constexpr FrameMode kYuyv[] = {
+    {640, 480, kFast},
+    {1280, 720, kSlow},
+};
+constexpr VideoFormat kFormats[] = {
+    {Coding::Mjpeg, kMjpeg},
+    {Coding::Yuyv, kYuyv},
+};
+
+} // namespace
+
+std::span<const VideoFormat> videoFormats()
+{
+    return kFormats;
+}
+
+} // namespace meridax::vmcamera
