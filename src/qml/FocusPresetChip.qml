@@ -129,6 +129,9 @@ Item {
             font.pixelSize: 12
             font.bold: true
             color: "white"
+            // Without a ground of its own the text has to stand out from any picture.
+            style: Text.Outline
+            styleColor: Qt.rgba(0, 0, 0, 0.5)
             elide: Text.ElideRight
         }
 
@@ -139,6 +142,8 @@ Item {
             font.family: Theme.monoFont
             font.pixelSize: 11
             color: "#B0B0B0"
+            style: Text.Outline
+            styleColor: Qt.rgba(0, 0, 0, 0.5)
         }
     }
 

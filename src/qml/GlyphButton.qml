@@ -32,6 +32,8 @@ AbstractButton {
         text: root.text
         font: root.font
         color: root.hovered ? "white" : root.glyphColor
+        style: root.hovered ? Text.Normal : Text.Outline
+        styleColor: Qt.rgba(0, 0, 0, 0.5)
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
     }

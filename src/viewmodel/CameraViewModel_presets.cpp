@@ -8,9 +8,9 @@ namespace meridax {
 
 namespace {
 
-void logPreset(const char *what, const FocusPreset &preset)
+void logPreset(const char *text, const FocusPreset &preset)
 {
-    qInfo().noquote() << "[FocusPreset]" << what << preset.name << "focus=" << preset.focusValue
+    qInfo().noquote() << text << preset.name << "focus=" << preset.focusValue
                       << "markers=" << preset.hasMarkers;
 }
 
@@ -36,7 +36,7 @@ void CameraViewModel::addFocusPreset(const QString &name)
         captureFocusPreset(shownName, m_settings.camera, m_settings.focusPresetIncludeMarkers));
     m_activeFocusPresetIndex = int(m_focusPresets.size()) - 1;
     m_activeFocusPresetDirty = false;
-    logPreset("Angelegt:", m_focusPresets.constLast());
+    logPreset("[FocusPreset] Angelegt:", m_focusPresets.constLast());
     emit focusPresetsChanged();
     emit focusPresetActiveChanged();
 }
@@ -55,7 +55,7 @@ void CameraViewModel::applyFocusPreset(int index)
     emit overlaySettingsChanged();
     m_saveTimer.start();
     emit focusPresetActiveChanged();
-    logPreset("Angefahren:", preset);
+    logPreset("[FocusPreset] Angefahren:", preset);
 }
 
 void CameraViewModel::updateFocusPreset(int index)

@@ -211,6 +211,22 @@ TestCase {
         compare(ViewModel.zoom, 2);
     }
 
+    // A press on what takes no keyboard focus itself ends typing as well.
+    function test_pressBesideTheFieldCommits() {
+        open();
+        window.requestActivate();
+        tryVerify(() => window.activeFocusItem);
+        const slider = findChild(item("circle1Section"), "radiusSlider");
+        ViewModel.circle1Enabled = true;
+        mouseDoubleClickSequence(findChild(slider, "valueLabel"));
+        verify(findChild(slider, "valueEditor").activeFocus);
+        for (const digit of "123")
+            keyClick(digit);
+        mouseClick(item("rightPanel"), 60, 75);
+        compare(ViewModel.circle1Radius, 123);
+        verify(!findChild(slider, "valueEditor").visible);
+    }
+
     function test_pickingAColor_data() {
         return [{ tag: "accepted", accepts: true }, { tag: "cancelled", accepts: false }];
     }
