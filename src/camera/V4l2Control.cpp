@@ -37,19 +37,19 @@ std::optional<ControlRange> V4l2Control::range() const
     return range;
 }
 
-bool V4l2Control::isAutomatic() const
+bool V4l2Control::isAutomatic(const Mode &mode) const
 {
-    const std::optional<int> now = m_mode ? m_device.value(m_mode->control) : std::nullopt;
+    const std::optional<int> now = m_device.value(mode.control);
     if (!now)
         return false;
-    if (m_mode->control.id != V4L2_CID_EXPOSURE_AUTO)
+    if (mode.control.id != V4L2_CID_EXPOSURE_AUTO)
         return *now != 0;
     return *now == V4L2_EXPOSURE_AUTO || *now == V4L2_EXPOSURE_APERTURE_PRIORITY;
 }
 
-bool V4l2Control::switchTo(int mode)
+bool V4l2Control::switchTo(const Mode &mode, int value)
 {
-    if (m_device.setValue(m_mode->control, mode))
+    if (m_device.setValue(mode.control, value))
         return false;
     // The other mode may have made the control inactive, or active again.
     m_error = m_device.query(m_control.id, m_control);
@@ -65,9 +65,9 @@ V4l2Control::Outcome V4l2Control::applyAutomatic()
 {
     if (!m_mode)
         return {};
-    if (isAutomatic())
+    if (isAutomatic(*m_mode))
         return {.taken = true};
-    return {.taken = switchTo(m_mode->automatic), .touched = true};
+    return {.taken = switchTo(*m_mode, m_mode->automatic), .touched = true};
 }
 
 bool V4l2Control::holds(int value) const
@@ -80,20 +80,23 @@ bool V4l2Control::holds(int value) const
 V4l2Control::Outcome V4l2Control::applyValue(int value)
 {
     // Devices refuse a value while the automatic mode is on, so the mode comes first.
-    const bool wasAutomatic = isAutomatic();
-    if (wasAutomatic && !switchTo(m_mode->manual))
-        return {.touched = true};
-    if (!wasAutomatic && holds(value))
+    bool switched = false;
+    if (m_mode && isAutomatic(*m_mode)) {
+        if (!switchTo(*m_mode, m_mode->manual))
+            return {.touched = true};
+        switched = true;
+    }
+    if (!switched && holds(value))
         return {.taken = true};
     // Taken over by the automatic mode of another control: a write would be refused.
     if (m_control.isInactive)
-        return {.touched = wasAutomatic};
+        return {.touched = switched};
 
     int error = m_device.setValue(m_control, value);
     if (error && m_mode) {
         // Some devices refuse the first value after a switch, and another program may have
         // switched back meanwhile.
-        switchTo(m_mode->manual);
+        switchTo(*m_mode, m_mode->manual);
         error = m_device.setValue(m_control, value);
     }
     return {.taken = error == 0, .touched = true};
@@ -104,7 +107,7 @@ ControlReadBack V4l2Control::readBack() const
     const std::optional<int> value = m_device.value(m_control);
     if (!value)
         return {};
-    return {*value, isAutomatic() ? 1 : 2};
+    return {*value, m_mode && isAutomatic(*m_mode) ? 1 : 2};
 }
 
 } // namespace meridax

@@ -37,12 +37,6 @@ public:
     ControlReadBack readBack() const;
 
 private:
-    bool isAutomatic() const;
-    bool switchTo(int mode);
-    Outcome applyAutomatic();
-    Outcome applyValue(int value);
-    bool holds(int value) const;
-
     /// The control that switches the mode, and the values of its two modes.
     struct Mode
     {
@@ -51,6 +45,12 @@ private:
         int automatic = 1;
     };
     static std::optional<Mode> queryMode(const V4l2Device &device, std::uint32_t id);
+    bool isAutomatic(const Mode &mode) const;
+    bool switchTo(const Mode &mode, int value);
+
+    Outcome applyAutomatic();
+    Outcome applyValue(int value);
+    bool holds(int value) const;
 
     const V4l2Device &m_device;
     V4l2Device::Control m_control;
