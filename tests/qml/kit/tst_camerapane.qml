@@ -55,6 +55,8 @@ TestCase {
         tryCompare(ViewModel, "running", true, 20000);
         // What the camera reports must not come in the middle of the next case.
         tryCompare(ViewModel, "exposureSupported", true, 20000);
+        // The row of the gain comes with it and lies over another one until it has its place.
+        verify(waitForPolish(testCase.Window.window));
     }
 
     function type(target: SettingsSlider, text: string) {
