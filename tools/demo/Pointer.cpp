@@ -17,23 +17,24 @@ constexpr unsigned char kLeftButton = 1;
 /// Time for the window to see a move before the press, as with a hand; hover states follow it.
 constexpr int kMoveToPressMs = 60;
 
-QPoint screenPosition(const QQuickItem &item)
+QPoint screenPosition(const QQuickItem &item, QPointF part)
 {
-    const QPointF middle = item.mapToScene(QPointF(item.width() / 2, item.height() / 2));
+    const QPointF place =
+        item.mapToScene(QPointF(item.width() * part.x(), item.height() * part.y()));
     const QQuickWindow &window = *item.window();
-    const QPointF global = window.mapToGlobal(middle);
+    const QPointF global = window.mapToGlobal(place);
     return (global * window.devicePixelRatio()).toPoint();
 }
 
 /// Waits until layouts and animations have put `item` where it stays.
-void waitUntilAtRest(const QQuickItem &item)
+void waitUntilAtRest(const QQuickItem &item, QPointF part)
 {
     constexpr int lookMs = 100;
     constexpr int mostLooks = 50;
-    QPoint before = screenPosition(item);
+    QPoint before = screenPosition(item, part);
     for (int i = 0; i < mostLooks; ++i) {
         QTest::qWait(lookMs);
-        const QPoint now = screenPosition(item);
+        const QPoint now = screenPosition(item, part);
         if (std::exchange(before, now) == now)
             return;
     }
@@ -55,16 +56,16 @@ Pointer::~Pointer()
     xcb_disconnect(m_connection);
 }
 
-void Pointer::moveTo(const QQuickItem &item)
+void Pointer::moveTo(const QQuickItem &item, QPointF part)
 {
-    waitUntilAtRest(item);
-    send(XCB_MOTION_NOTIFY, 0, screenPosition(item));
+    waitUntilAtRest(item, part);
+    send(XCB_MOTION_NOTIFY, 0, screenPosition(item, part));
     QTest::qWait(kMoveToPressMs);
 }
 
-void Pointer::click(const QQuickItem &item)
+void Pointer::click(const QQuickItem &item, QPointF part)
 {
-    moveTo(item);
+    moveTo(item, part);
     send(XCB_BUTTON_PRESS, kLeftButton);
     send(XCB_BUTTON_RELEASE, kLeftButton);
 }

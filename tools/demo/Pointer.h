@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QPointF>
 
 class QQuickItem;
 struct xcb_connection_t;
@@ -15,10 +16,10 @@ public:
     Pointer(const Pointer &) = delete;
     Pointer &operator=(const Pointer &) = delete;
 
-    /// Moves to the middle of `item`.
-    void moveTo(const QQuickItem &item);
-    /// Moves to the middle of `item` and presses and releases the left button there.
-    void click(const QQuickItem &item);
+    /// Moves to the place `part` of `item`, which is a part of its size: at first its middle.
+    void moveTo(const QQuickItem &item, QPointF part = {0.5, 0.5});
+    /// Moves there and presses and releases the left button.
+    void click(const QQuickItem &item, QPointF part = {0.5, 0.5});
 
 private:
     void send(unsigned char type, unsigned char detail, QPoint position = {});

@@ -5,6 +5,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
+#include <functional>
+
+/// Waits as long as an emulated processor on a busy system may take. Throws std::runtime_error
+/// naming `what` when the time is over.
+void waitLong(const QString &what, const std::function<bool()> &condition);
+
 /// Counts the frames that the program publishes, and can wait for them.
 class FrameCounter : public QObject
 {
@@ -15,8 +22,6 @@ public:
 
     /// Waits for so many more frames. Throws std::runtime_error when they do not come.
     void waitForFrames(int count) const;
-    /// Waits until no frame has come for a second. Throws likewise.
-    void waitForStandstill() const;
 
 public slots:
     void count() { ++m_frames; }
@@ -54,3 +59,10 @@ private:
 
 /// Runs a program to its end while this one lives on. Throws std::runtime_error unless it succeeds.
 void runTool(const QString &program, const QStringList &arguments);
+
+/// Waits until the program has logged a line with that text. Throws std::runtime_error likewise.
+void waitForLogLine(const QString &text);
+
+/// Value of a V4L2 control as the device has it now, asked for by way of a descriptor of its own.
+/// Throws std::runtime_error when it cannot be read.
+int deviceControl(const QString &device, std::uint32_t control);

@@ -17,7 +17,8 @@ struct PictureValues
     bool operator==(const PictureValues &) const = default;
 };
 
-/// Makes the frames: a grey ramp under a fine pattern of squares, over which a bar moves.
+/// Makes the frames: a grey ramp under a fine pattern of squares. A bar moves along the upper edge,
+/// so that frames differ but the sharpness of what is below does not.
 ///
 /// Encoding takes most of the time, so the bar has a few places only and the frames are kept.
 class TestPicture
