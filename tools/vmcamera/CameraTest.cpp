@@ -48,8 +48,9 @@ private:
         } catch (const std::exception &error) {
             failure = QString::fromUtf8(error.what());
         }
-        const QString result = failure.isEmpty() ? QStringLiteral("pass: %1").arg(name)
-                                                 : QStringLiteral("FAIL: %1: %2").arg(name, failure);
+        const QString result = failure.isEmpty()
+                                   ? QStringLiteral("pass: %1").arg(name)
+                                   : QStringLiteral("FAIL: %1: %2").arg(name, failure);
         std::printf("%s (%.1f s)\n", qPrintable(result), double(time.elapsed()) / 1000.0);
         std::fflush(stdout);
         m_window.save(QStringLiteral("%1/%2.png")
@@ -182,9 +183,8 @@ private:
         const auto value = [&] { return m_window.value(property).toInt(); };
         const int before = value();
         (m_window.*move)(slider);
-        waitLong(QStringLiteral("the %1 in the device").arg(QLatin1String(property)), [&] {
-            return value() != before && deviceControl(kDevice, control) == value();
-        });
+        waitLong(QStringLiteral("the %1 in the device").arg(QLatin1String(property)),
+                 [&] { return value() != before && deviceControl(kDevice, control) == value(); });
     }
 
     static void requireDeviceValue(std::uint32_t control, int value)

@@ -10,7 +10,8 @@ class CameraWindow
 {
 public:
     static inline const QString runningLabel = QStringLiteral("Kamera verbunden");
-    static inline const QString failedLabel = QStringLiteral("Kamerafehler – bitte Gerät und Verbindung prüfen.");
+    static inline const QString failedLabel =
+        QStringLiteral("Kamerafehler – bitte Gerät und Verbindung prüfen.");
     static inline const QString notFoundLabel = QStringLiteral("Keine passende Kamera gefunden.");
 
     void start();

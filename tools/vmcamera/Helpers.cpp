@@ -50,7 +50,7 @@ OtherViewer::OtherViewer(const QString &device)
                      QStringLiteral("--stream-count=100000")});
     // It draws a "<" for each frame.
     waitLong(QStringLiteral("the frames of the other program"),
-            [this] { return m_process.readAllStandardError().contains('<'); });
+             [this] { return m_process.readAllStandardError().contains('<'); });
 }
 
 OtherViewer::~OtherViewer()
@@ -64,7 +64,7 @@ void runTool(const QString &program, const QStringList &arguments)
     QProcess process;
     process.start(program, arguments);
     waitLong(QStringLiteral("the end of %1").arg(program),
-            [&] { return process.state() == QProcess::NotRunning; });
+             [&] { return process.state() == QProcess::NotRunning; });
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         throw std::runtime_error(program.toStdString() + ": " +
                                  process.readAllStandardError().toStdString());

@@ -11,7 +11,7 @@ namespace {
 constexpr int kBarGrey = 235;
 constexpr unsigned kBarPart = 40; ///< width of the bar as a part of the picture's width
 constexpr unsigned kBarHeightPart = 4;
-constexpr unsigned kSquare = 8;   ///< edge of the pattern's squares, px
+constexpr unsigned kSquare = 8; ///< edge of the pattern's squares, px
 constexpr double kPatternContrast = 40.0;
 constexpr std::uint8_t kNeutral = 128;
 
