@@ -19,15 +19,14 @@ std::wstring hresultText(HRESULT result)
 }
 
 /// `text` in one case, the same for every language of the system.
-std::wstring folded(std::wstring text)
+std::wstring folded(const std::wstring &text)
 {
-    if (!text.empty()) {
-        const int length = static_cast<int>(text.size());
-        const std::wstring source = text;
-        LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, source.data(), length, text.data(),
+    std::wstring result = text;
+    const int length = static_cast<int>(text.size());
+    if (length > 0)
+        LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, text.data(), length, result.data(),
                       length, nullptr, nullptr, 0);
-    }
-    return text;
+    return result;
 }
 
 std::vector<ComPtr<IMoniker>> allMonikers(IEnumMoniker &list)
