@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import Meridax
 
 /// A short message that comes and goes by itself.
 Rectangle {

@@ -1,4 +1,3 @@
-import QtQuick
 import QtQuick.Dialogs
 import Meridax
 import "folderUrl.mjs" as FolderUrl

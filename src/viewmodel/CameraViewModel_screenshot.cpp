@@ -37,7 +37,7 @@ QString CameraViewModel::captureScreenshot() const
         qInfo() << "Screenshot: kein Frame verfügbar (Kamera nicht aktiv?)";
         return {};
     }
-    const QString path = nextScreenshotFilePath();
+    QString path = nextScreenshotFilePath(); // not const: it is moved out
     if (path.isEmpty())
         return {};
     // Nothing half-written stays behind on a full disk.
