@@ -13,10 +13,11 @@ namespace {
 
 const QString kDevice = QStringLiteral("/dev/video0");
 
-/// Where the camera's picture is sharp, and how far from it a sweep may end: the device has steps
-/// of 5.
+/// Where the camera's picture is sharp, and how far from it a sweep may end: one of its coarse
+/// steps, in case frames wait in the driver.
 constexpr int kBestFocus = 120;
-constexpr int kFocusTolerance = 10;
+constexpr int kFocusTolerance = 23;
+constexpr int kFocusStep = 5;
 
 class CameraTest
 {
@@ -90,6 +91,10 @@ private:
 
     void spotFocus()
     {
+        // From a blurred picture: an old sharp frame would pass for the first position.
+        m_window.setValue("focusValue", m_window.value("focusRangeMax"));
+        requireDeviceValue(V4L2_CID_FOCUS_AUTO, 0);
+        m_window.frames().waitForFrames(5);
         beginSweep();
         waitLong(QStringLiteral("the end of the sweep"),
                  [this] { return !m_window.value("focusSweepActive").toBool(); });
@@ -98,7 +103,7 @@ private:
                 QStringLiteral("it ends at %1").arg(found));
         requireDeviceValue(V4L2_CID_FOCUS_AUTO, 0);
         const int onDevice = deviceControl(kDevice, V4L2_CID_FOCUS_ABSOLUTE);
-        require(std::abs(onDevice - found) <= kFocusTolerance,
+        require(std::abs(onDevice - found) <= kFocusStep,
                 QStringLiteral("the device stands at %1").arg(onDevice));
     }
 

@@ -5,7 +5,7 @@
 namespace {
 
 /// After a start; fewer could be what was still under way.
-constexpr int kFirstFrames = 10;
+constexpr int kFirstFrames = 5;
 /// Where nothing covers the picture, as a part of its size.
 constexpr QPointF kBesideThePanels(0.75, 0.5);
 
