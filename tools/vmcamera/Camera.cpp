@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cmath>
 #include <cstdio>
+#include <format>
+#include <iterator>
 #include <utility>
 
 namespace meridax::vmcamera {
@@ -25,11 +27,9 @@ constexpr int kBestFocus = 120;
 constexpr double kFocusRange = 125.0;
 
 /// The lines are what tests wait for, so each is out at once.
-template <typename... Arguments>
-void log(const char *format, Arguments... arguments)
+void log(const std::string &line)
 {
-    std::printf(format, arguments...);
-    std::putchar('\n');
+    std::puts(line.c_str());
     std::fflush(stdout);
 }
 
@@ -63,7 +63,7 @@ void Camera::command(std::string_view line)
     else if (line == "thaw")
         m_frozen = false;
     else
-        log("unknown command '%.*s'", static_cast<int>(line.size()), line.data());
+        log(std::format("unknown command '{}'", line));
 }
 
 void Camera::plug()
@@ -101,7 +101,7 @@ void Camera::answer(const HostMessage &message)
     if (message.kind == HostMessage::Kind::Unlink)
         answerUnlink(message);
     else if (message.kind == HostMessage::Kind::Unknown)
-        log("unknown message %u", message.sequence);
+        log(std::format("unknown message {}", message.sequence));
     else if (message.endpoint == 0)
         answerControl(message);
     else if (message.towardsHost)
@@ -132,7 +132,7 @@ void Camera::logControl(const SetupPacket &setup, bool accepted) const
     const bool isControl = (setup.index >> 8) != 0 && (setup.index & 0xff) == 0;
     if (isControl && accepted && control &&
         setup.request == static_cast<std::uint8_t>(Request::SetCurrent))
-        log("%s = %d", control->name, m_device.controls().value(control->name));
+        log(std::format("{} = {}", control->name, m_device.controls().value(control->name)));
 }
 
 void Camera::answerUnlink(const HostMessage &message)
@@ -150,13 +150,14 @@ void Camera::onStreamChanged()
     m_payloads.clear();
     m_frameDue = Clock::now();
     if (!m_device.stream()) {
-        log("stream off after %u frames", m_frames);
+        log(std::format("stream off after {} frames", m_frames));
         return;
     }
     const StreamChoice &stream = *m_device.stream();
     m_frames = 0;
-    log("stream %s %ux%u", stream.videoFormat().coding == Coding::Mjpeg ? "MJPEG" : "YUYV",
-        stream.frameMode().width, stream.frameMode().height);
+    log(std::format("stream {} {}x{}",
+                    stream.videoFormat().coding == Coding::Mjpeg ? "MJPEG" : "YUYV",
+                    stream.frameMode().width, stream.frameMode().height));
 }
 
 bool Camera::canMakeFrame() const

@@ -16,10 +16,10 @@ struct HostMessage
     std::uint32_t sequence = 0;
     std::uint32_t endpoint = 0;
     bool towardsHost = false;
-    std::uint32_t length = 0;          ///< of the transfer [bytes]
-    std::uint32_t unlinkSequence = 0;  ///< the transfer to forget
-    std::array<std::uint8_t, 8> setup; ///< on endpoint 0
-    Bytes data;                        ///< what goes to the device
+    std::uint32_t length = 0;            ///< of the transfer [bytes]
+    std::uint32_t unlinkSequence = 0;    ///< the transfer to forget
+    std::array<std::uint8_t, 8> setup{}; ///< on endpoint 0
+    Bytes data;                          ///< what goes to the device
 };
 
 /// Takes the first message out of `buffer`; nothing while it is not complete.
