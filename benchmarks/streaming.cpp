@@ -1,0 +1,148 @@
+#include "viewmodel/CameraViewModel.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+void qml_register_types_Meridax();
+
+using namespace meridax;
+
+namespace {
+
+constexpr int kSeconds = 10;
+constexpr int kCycles = 200;
+
+/// CPU time of the calling thread [s].
+double threadSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// Frames the simulated camera has sent since it was plugged in.
+int framesSent()
+{
+    QProcess tool;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("LD_PRELOAD"));
+    tool.setProcessEnvironment(environment);
+    tool.start(qEnvironmentVariable("SIMCAM_TOOL"), {QStringLiteral("truth")});
+    tool.waitForFinished();
+    static const QRegularExpression frames(QStringLiteral("\\bframes[ =:]+(\\d+)"));
+    return frames.match(QString::fromUtf8(tool.readAllStandardOutput())).captured(1).toInt();
+}
+
+/// Resident memory of this process [MiB].
+double residentMegabytes()
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    static const QRegularExpression line(QStringLiteral("VmRSS:\\s+(\\d+) kB"));
+    return line.match(QString::fromLatin1(file.readAll())).captured(1).toDouble() / 1024;
+}
+
+bool start(CameraViewModel &viewModel, const QString &size)
+{
+    viewModel.stopCamera();
+    for (int i = 0; i < viewModel.resolutionOptions().size(); ++i) {
+        if (viewModel.resolutionOptions().at(i).startsWith(size))
+            viewModel.setSelectedResolutionIndex(i);
+    }
+    int frames = 0;
+    const auto counting = QObject::connect(viewModel.controller(), &CameraController::frameReady,
+                                           &viewModel, [&frames](const QImage &) { ++frames; });
+    viewModel.startCamera();
+    const bool streams = QTest::qWaitFor([&frames] { return frames >= 2; }, 10'000);
+    QObject::disconnect(counting);
+    return streams;
+}
+
+/// Streams for a while; `dragging` moves the brightness as a hand on its slider does, 60 times a
+/// second.
+void measureStream(CameraViewModel &viewModel, const char *name, bool dragging)
+{
+    int frames = 0;
+    const auto counting = QObject::connect(viewModel.controller(), &CameraController::frameReady,
+                                           &viewModel, [&frames](const QImage &) { ++frames; });
+    int moves = 0;
+    QTimer hand;
+    hand.callOnTimeout(&viewModel, [&viewModel, &moves] {
+        const int range = viewModel.brightnessRangeMax() - viewModel.brightnessRangeMin();
+        viewModel.setBrightness(viewModel.brightnessRangeMin() + (++moves % (range + 1)));
+    });
+    // The longest time between two turns of the event loop is what a user feels.
+    qint64 longest = 0;
+    QElapsedTimer sinceTurn;
+    QTimer turns;
+    turns.setTimerType(Qt::PreciseTimer);
+    turns.callOnTimeout(&viewModel, [&longest, &sinceTurn] {
+        longest = std::max(longest, sinceTurn.restart());
+    });
+
+    const int sentBefore = framesSent();
+    const double cpuBefore = threadSeconds();
+    frames = 0;
+    if (dragging)
+        hand.start(16);
+    sinceTurn.start();
+    turns.start(5);
+    QTest::qWait(kSeconds * 1000);
+    hand.stop();
+    turns.stop();
+    const double cpu = threadSeconds() - cpuBefore;
+    const int shown = frames;
+    const int sent = framesSent() - sentBefore;
+    QObject::disconnect(counting);
+    std::printf("%-18s sent %4d  shown %4d (%5.1f %%)  moves %4d  GUI thread %6.2f ms/frame"
+                "  longest turn %3lld ms\n",
+                name, sent, shown, 100.0 * shown / std::max(sent, 1), moves,
+                1000 * cpu / std::max(shown, 1), static_cast<long long>(longest));
+}
+
+bool measureCycles(CameraViewModel &viewModel)
+{
+    const QString sizes[] = {QStringLiteral("640 x 480"), QStringLiteral("1920 x 1080"),
+                             QStringLiteral("1280 x 720")};
+    for (int cycle = 1; cycle <= kCycles; ++cycle) {
+        if (!start(viewModel, sizes[cycle % std::size(sizes)]))
+            return false;
+        if (cycle == 10 || cycle % 50 == 0)
+            std::printf("after %3d starts: %.1f MiB resident\n", cycle, residentMegabytes());
+    }
+    return true;
+}
+
+} // namespace
+
+/// Whole program on the simulated camera: frames that reach the picture and time of the GUI thread
+/// with and without a slider being dragged, and memory over many starts and stops.
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Tarnwick Optics"));
+    QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
+    QGuiApplication app(argc, argv);
+    qml_register_types_Meridax();
+    QQmlApplicationEngine engine;
+    engine.loadFromModule("Meridax", "Main");
+    auto *viewModel = engine.singletonInstance<CameraViewModel *>("Meridax", "ViewModel");
+    if (!viewModel || !start(*viewModel, QStringLiteral("1920 x 1080"))) {
+        std::fprintf(stderr, "no stream: is the simulated camera attached?\n");
+        return 1;
+    }
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    measureStream(*viewModel, "1920x1080, still", false);
+    measureStream(*viewModel, "1920x1080, dragged", true);
+    return measureCycles(*viewModel) ? 0 : 1;
+}
