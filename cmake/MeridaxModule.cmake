@@ -58,7 +58,7 @@ target_include_directories(meridax_module PUBLIC ${PROJECT_SOURCE_DIR}/src
     # The generated type registration includes headers by their bare names.
     PRIVATE src/camera src/items src/viewmodel)
 target_link_libraries(meridax_module
-    PUBLIC meridax_settings meridax_camera meridax_measurement
+    PUBLIC meridax_diagnostics meridax_settings meridax_camera meridax_measurement
         Qt6::Quick Qt6::QuickControls2 Qt6::Multimedia Qt6::Svg Qt6::Network
     PRIVATE meridax_options meridax_buildinfo)
 

@@ -1,5 +1,7 @@
 #include "app/SingleInstance.h"
 #include "app/TitleBar.h"
+#include "diagnostics/CrashHandler.h"
+#include "diagnostics/LogManager.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/LanguageSwitch.h"
 
@@ -66,6 +68,10 @@ int main(int argc, char *argv[])
         activateRunningInstance();
         return 0;
     }
+    // After the lock, so that one process only writes the log; before the application, so that its
+    // construction is covered.
+    LogManager::install();
+    CrashHandler::install();
 
     QGuiApplication app(argc, argv);
     setApplicationIdentity();

@@ -2,6 +2,7 @@
 #include "camera/CameraScales.h"
 #include "camera/DeviceChoice.h"
 #include "camera/FormatChoice.h"
+#include "diagnostics/CrashHandler.h"
 
 #include <QCamera>
 #include <QCameraFormat>
@@ -201,6 +202,7 @@ void CameraController::startCapabilityProbe()
 
 void CameraController::capabilityProbe(const CameraSettings &settings)
 {
+    CrashHandler::coverThread();
     CameraCapabilities caps;
     if (m_backend && m_backend->queryCameraCapabilities(settings, &caps, nullptr)) {
         for (const QString &line : capabilityLogLines(settings.cameraName, caps))

@@ -1,6 +1,7 @@
 #include "camera/CameraController.h"
 #include "camera/FrameImage.h"
 #include "camera/SoftwareAdjustments.h"
+#include "diagnostics/CrashHandler.h"
 
 #include <opencv2/imgproc.hpp>
 
@@ -43,6 +44,7 @@ void CameraController::invalidateFramesInFlight()
 
 void CameraController::processingLoop()
 {
+    CrashHandler::coverThread();
     std::unique_lock lock(m_pendingMutex);
     while (true) {
         m_pendingCondition.wait(lock, [this] { return m_stopRequested || m_hasPending; });

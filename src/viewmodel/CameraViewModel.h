@@ -374,6 +374,8 @@ public slots:
     bool sectionCollapsed(const QString &key, bool defaultCollapsed) const;
     void setSectionCollapsed(const QString &key, bool collapsed);
     void copyToClipboard(const QString &text);
+    /// The newest `lines` lines of the log, all that are remembered for `lines` below 1.
+    QString getLogTail(int lines = 200) const;
 
     /// Starts the selected camera; success is known when `running` turns true.
     void startCamera();

@@ -1,7 +1,9 @@
-// Settings of the application itself: language, remembered sections, window geometry, clipboard.
+// Settings of the application itself: language, remembered sections, window geometry, clipboard,
+// log.
 
 #include "viewmodel/CameraViewModel.h"
 
+#include "diagnostics/LogManager.h"
 #include "viewmodel/LanguageSwitch.h"
 
 #include <QClipboard>
@@ -76,6 +78,11 @@ void CameraViewModel::copyToClipboard(const QString &text)
         return;
     clipboard->setText(text);
     qDebug() << "[Clipboard] Text kopiert (" << text.size() << "Zeichen)";
+}
+
+QString CameraViewModel::getLogTail(int lines) const
+{
+    return LogManager::tail(lines);
 }
 
 } // namespace meridax

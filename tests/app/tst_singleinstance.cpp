@@ -86,6 +86,28 @@ private slots:
         QVERIFY2(next.isListening(), next.process().readAll());
     }
 
+    void aCrashLeavesTheLogAndAReport()
+    {
+        const QString folder =
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+            QStringLiteral("/Tarnwick Optics/Meridax/");
+        QFile log(folder + QStringLiteral("logs/meridax.log"));
+        QFile report(folder + QStringLiteral("crash.txt"));
+        log.remove();
+        Instance crashing;
+        QVERIFY(crashing.isListening());
+        QVERIFY(!report.exists());
+        ::kill(static_cast<pid_t>(crashing.process().processId()), SIGSEGV);
+        QVERIFY(crashing.process().waitForFinished());
+        QCOMPARE(crashing.process().exitStatus(), QProcess::CrashExit);
+        QCOMPARE(crashing.process().exitCode(), SIGSEGV);
+        QVERIFY(report.open(QIODevice::ReadOnly) && log.open(QIODevice::ReadOnly));
+        QVERIFY(log.readLine().contains("[INF] [LogManager] Logging gestartet"));
+        QVERIFY(log.readLine().contains("[INF] [CrashHandler] installiert"));
+        QVERIFY(report.readAll().endsWith(log.readAll().trimmed() + "\r\n"));
+        report.remove();
+    }
+
     void withoutADataFolderItEndsQuietly()
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

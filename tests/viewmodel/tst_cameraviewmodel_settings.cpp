@@ -1,5 +1,6 @@
 #include "ViewModelFixture.h"
 
+#include "diagnostics/LogManager.h"
 #include "viewmodel/LanguageSwitch.h"
 
 #include <QRect>
@@ -105,6 +106,15 @@ private slots:
         QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
         m_viewModel->setLanguage("de");
         QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
+    }
+
+    void theEndOfTheLogIsAtHand()
+    {
+        LogManager::install();
+        for (int i = 0; i < 201; ++i)
+            qInfo("line %d", i);
+        QCOMPARE(m_viewModel->getLogTail(), LogManager::tail(200));
+        QCOMPARE(m_viewModel->getLogTail(3).count(u'\n'), 2);
     }
 
 private:
