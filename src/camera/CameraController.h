@@ -30,6 +30,8 @@ class Mat;
 
 namespace meridax {
 
+enum class ChannelOrder;
+
 struct CalibrationSession;
 struct CalibrationSessionDeleter
 {
@@ -151,7 +153,7 @@ private:
     void invalidateFramesInFlight();
     void processingLoop();
     void processFrame(PendingFrame &frame);
-    void processCalibrationFrame(const PendingFrame &frame);
+    void processCalibrationFrame(PendingFrame &frame);
     void publishFrame(const QImage &image);
     void publishFrameSize(QSize size);
 
@@ -160,11 +162,12 @@ private:
     bool isCalibrationActive() const;
     void forgetBlobCount();
     void resetBlobState();
-    void analyseCalibrationFrame(cv::Mat &frame, const AppSettings &settings);
+    void analyseCalibrationFrame(cv::Mat &frame, ChannelOrder order, const AppSettings &settings);
     void publishBlobCount(int count);
     void publishSector(bool inSector, double alignment);
-    void measureBlob(cv::Mat &frame, const cv::KeyPoint &blob, int measureFrames);
-    void completeCalibration(cv::Mat &frame);
+    void measureBlob(cv::Mat &frame, ChannelOrder order, const cv::KeyPoint &blob,
+                     int measureFrames);
+    void completeCalibration(cv::Mat &frame, ChannelOrder order);
 
     // Spot focus (src/measurement/CameraController_focus.cpp)
     void createFocusSession();

@@ -113,16 +113,23 @@ void CameraController::publishFrameSize(QSize size)
 
 // Unlike the live path this one neither checks the generation nor keeps the frame: during a
 // calibration latestFrame() stays the last one from before it.
-void CameraController::processCalibrationFrame(const PendingFrame &frame)
+void CameraController::processCalibrationFrame(PendingFrame &frame)
 {
-    cv::Mat bgr;
-    cv::cvtColor(wrapRgbImage(frame.image), bgr, cv::COLOR_RGB2BGR);
-    applySoftwareAdjustments(bgr, frame.settings.camera);
-    analyseCalibrationFrame(bgr, frame.settings);
-    drawTimeStamp(bgr, ChannelOrder::Bgr, QDateTime::currentDateTime());
-    publishFrameSize({bgr.cols, bgr.rows});
+    QImage image = std::move(frame.image);
+    cv::Mat pixels;
+    const bool neutral = adjustmentsAreNeutral(frame.settings.camera);
+    const ChannelOrder order = neutral ? ChannelOrder::Rgb : ChannelOrder::Bgr;
+    if (neutral) {
+        pixels = wrapRgbImage(image);
+    } else {
+        cv::cvtColor(wrapRgbImage(std::as_const(image)), pixels, cv::COLOR_RGB2BGR);
+        applySoftwareAdjustments(pixels, frame.settings.camera);
+    }
+    analyseCalibrationFrame(pixels, order, frame.settings);
+    drawTimeStamp(pixels, order, QDateTime::currentDateTime());
+    publishFrameSize({pixels.cols, pixels.rows});
     if (m_streaming)
-        emit frameReady(rgbImageFromBgr(bgr));
+        emit frameReady(neutral ? image : rgbImageFromBgr(pixels));
 }
 
 } // namespace meridax

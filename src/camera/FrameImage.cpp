@@ -31,8 +31,7 @@ QImage rgbImageFromBgr(const cv::Mat &bgr)
 
 void drawTimeStamp(cv::Mat &image, ChannelOrder order, const QDateTime &when)
 {
-    const cv::Scalar yellow =
-        order == ChannelOrder::Bgr ? cv::Scalar(0, 255, 255) : cv::Scalar(255, 255, 0);
+    const cv::Scalar yellow = inOrder({0, 255, 255}, order);
     cv::putText(image, when.toString(QStringLiteral("HH.mm.ss")).toStdString(), {12, 24},
                 cv::FONT_HERSHEY_SIMPLEX, 0.7, yellow, 1, cv::LINE_AA);
 }

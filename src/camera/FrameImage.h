@@ -10,6 +10,12 @@ namespace meridax {
 /// Order of the colour channels in a three-channel image.
 enum class ChannelOrder { Bgr, Rgb };
 
+/// The channels of `bgr` in the given order.
+inline cv::Scalar inOrder(const cv::Scalar &bgr, ChannelOrder order)
+{
+    return order == ChannelOrder::Bgr ? bgr : cv::Scalar(bgr[2], bgr[1], bgr[0]);
+}
+
 /// `image` (Format_RGB888) as a CV_8UC3 matrix over the same pixels with the image's own stride.
 /// Writing through it needs an image that nobody shares: the call detaches a shared one.
 cv::Mat wrapRgbImage(QImage &image);

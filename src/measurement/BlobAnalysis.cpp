@@ -160,27 +160,26 @@ cv::Point2d refineBlobCentre(const cv::Mat &grey, const cv::KeyPoint &keypoint)
     return std::hypot(refined.x - found.x, refined.y - found.y) > reach ? found : refined;
 }
 
-void drawBlobMark(cv::Mat &bgr, const cv::KeyPoint &keypoint, const cv::Scalar &colour)
+void drawBlobMark(cv::Mat &frame, const cv::KeyPoint &keypoint, const cv::Scalar &colour)
 {
     const int radius = static_cast<int>(std::lround(0.55 * keypoint.size));
-    cv::circle(bgr, nearestPixel(keypoint.pt.x, keypoint.pt.y), radius, colour, 2, cv::LINE_AA);
+    cv::circle(frame, nearestPixel(keypoint.pt.x, keypoint.pt.y), radius, colour, 2, cv::LINE_AA);
 }
 
-void drawCalibrationResult(cv::Mat &bgr, QPointF centre, std::span<const QPointF> points)
+void drawCalibrationResult(cv::Mat &frame, QPointF centre, const cv::Scalar &centreColour,
+                           std::span<const QPointF> points, const cv::Scalar &pointColour)
 {
     constexpr int thickness = 2;
     constexpr int arm = 24;
-    const cv::Scalar magenta(255, 0, 255);
-    const cv::Scalar orange(0, 165, 255);
 
     const cv::Point middle = nearestPixel(centre.x(), centre.y());
     const cv::Point across(arm, 0);
     const cv::Point down(0, arm);
-    cv::circle(bgr, middle, 16, magenta, thickness, cv::LINE_AA);
-    cv::line(bgr, middle - across, middle + across, magenta, thickness, cv::LINE_AA);
-    cv::line(bgr, middle - down, middle + down, magenta, thickness, cv::LINE_AA);
+    cv::circle(frame, middle, 16, centreColour, thickness, cv::LINE_AA);
+    cv::line(frame, middle - across, middle + across, centreColour, thickness, cv::LINE_AA);
+    cv::line(frame, middle - down, middle + down, centreColour, thickness, cv::LINE_AA);
     for (const QPointF &point : points)
-        cv::circle(bgr, nearestPixel(point.x(), point.y()), 8, orange, thickness, cv::LINE_AA);
+        cv::circle(frame, nearestPixel(point.x(), point.y()), 8, pointColour, thickness, cv::LINE_AA);
 }
 
 } // namespace meridax

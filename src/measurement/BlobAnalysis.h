@@ -12,7 +12,7 @@
 
 /// Search for the dark round mark, its exact position, and what is drawn about it.
 ///
-/// Grey images are CV_8UC1, colour images CV_8UC3 in BGR order. Positions are frame pixels at full
+/// Grey images are CV_8UC1, colour images CV_8UC3. Positions are frame pixels at full
 /// resolution; the centre of the top left pixel is (0, 0).
 namespace meridax {
 
@@ -38,11 +38,13 @@ std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv
 /// is too small or holds no outline near enough.
 cv::Point2d refineBlobCentre(const cv::Mat &grey, const cv::KeyPoint &keypoint);
 
-/// Draws the ring about one blob.
-void drawBlobMark(cv::Mat &bgr, const cv::KeyPoint &keypoint, const cv::Scalar &colour);
+/// Draws the ring about one blob; `colour` in the channel order of the frame.
+void drawBlobMark(cv::Mat &frame, const cv::KeyPoint &keypoint, const cv::Scalar &colour);
 
-/// Draws the fitted centre as a ring with crosshair, and a ring about each measured point.
-/// Whatever lies outside the image is left out, however far away.
-void drawCalibrationResult(cv::Mat &bgr, QPointF centre, std::span<const QPointF> points);
+/// Draws the fitted centre as a ring with crosshair, and a ring about each measured point, in
+/// colours of the frame's channel order. Whatever lies outside the image is left out, however far
+/// away.
+void drawCalibrationResult(cv::Mat &frame, QPointF centre, const cv::Scalar &centreColour,
+                           std::span<const QPointF> points, const cv::Scalar &pointColour);
 
 } // namespace meridax

@@ -1,4 +1,5 @@
 #include "camera/CameraController.h"
+#include "camera/FrameImage.h"
 #include "measurement/BlobAnalysis.h"
 #include "measurement/CalibrationSession.h"
 #include "measurement/CircleFit.h"
@@ -16,8 +17,11 @@ namespace meridax {
 namespace {
 
 constexpr double kAlignmentStep = 0.001;
+// Blue, green, red.
 const cv::Scalar kRed(0, 0, 255);
 const cv::Scalar kGreen(0, 255, 0);
+const cv::Scalar kMagenta(255, 0, 255);
+const cv::Scalar kOrange(0, 165, 255);
 
 void logPoints(const std::vector<QPointF> &points)
 {
@@ -99,7 +103,8 @@ void CameraController::measurePosition()
                                 CalibrationRun::framesWanted(m_settings.calibrationMeasureFrames));
 }
 
-void CameraController::analyseCalibrationFrame(cv::Mat &frame, const AppSettings &settings)
+void CameraController::analyseCalibrationFrame(cv::Mat &frame, ChannelOrder order,
+                                               const AppSettings &settings)
 {
     CalibrationSession &session = *m_calibration;
     if (session.detectorDirty(settings.blob)) {
@@ -107,7 +112,8 @@ void CameraController::analyseCalibrationFrame(cv::Mat &frame, const AppSettings
         session.detectorSettings = settings.blob;
     }
 
-    cv::cvtColor(frame, session.grey, cv::COLOR_BGR2GRAY);
+    cv::cvtColor(frame, session.grey,
+                 order == ChannelOrder::Rgb ? cv::COLOR_RGB2GRAY : cv::COLOR_BGR2GRAY);
     const std::vector<cv::KeyPoint> blobs =
         detectBlobs(*session.detector, session.grey, session.scaled);
     publishBlobCount(static_cast<int>(blobs.size()));
@@ -121,9 +127,9 @@ void CameraController::analyseCalibrationFrame(cv::Mat &frame, const AppSettings
     publishSector(sector.inSector, sector.alignment);
 
     for (const cv::KeyPoint &blob : blobs)
-        drawBlobMark(frame, blob, single ? kGreen : kRed);
+        drawBlobMark(frame, blob, inOrder(single ? kGreen : kRed, order));
     if (single)
-        measureBlob(frame, blobs[0], settings.calibrationMeasureFrames);
+        measureBlob(frame, order, blobs[0], settings.calibrationMeasureFrames);
 }
 
 void CameraController::publishBlobCount(int count)
@@ -144,7 +150,8 @@ void CameraController::publishSector(bool inSector, double alignment)
 
 // Holds the measurement mutex across accumulation, fit and the final signals, so that a start or
 // cancel on the GUI thread comes wholly before or wholly after them.
-void CameraController::measureBlob(cv::Mat &frame, const cv::KeyPoint &blob, int measureFrames)
+void CameraController::measureBlob(cv::Mat &frame, ChannelOrder order, const cv::KeyPoint &blob,
+                                   int measureFrames)
 {
     CalibrationSession &session = *m_calibration;
     const std::lock_guard lock(session.mutex);
@@ -167,10 +174,10 @@ void CameraController::measureBlob(cv::Mat &frame, const cv::KeyPoint &blob, int
     emit blobInSectorChanged(false);
     emit guideIndexChanged(step.positionsDone, session.run.positions());
     if (step.kind == CalibrationStep::Kind::AllDone)
-        completeCalibration(frame);
+        completeCalibration(frame, order);
 }
 
-void CameraController::completeCalibration(cv::Mat &frame)
+void CameraController::completeCalibration(cv::Mat &frame, ChannelOrder order)
 {
     CalibrationSession &session = *m_calibration;
     session.active = false;
@@ -187,7 +194,8 @@ void CameraController::completeCalibration(cv::Mat &frame)
         return;
     }
     const FitQuality quality = analyseFitQuality(points, fit.center(), fit.radius);
-    drawCalibrationResult(frame, fit.center(), points);
+    drawCalibrationResult(frame, fit.center(), inOrder(kMagenta, order), points,
+                          inOrder(kOrange, order));
 
     // The figures first: the centre opens the dialog that shows them.
     emit calibrationFitDetails(static_cast<int>(points.size()), fit.radius, fit.stdDev);

@@ -279,7 +279,8 @@ private slots:
     void calibrationResult()
     {
         cv::Mat bgr(200, 200, CV_8UC3, cv::Scalar::all(0));
-        drawCalibrationResult(bgr, {99.6, 100.4}, std::vector<QPointF>{{30, 40}, {170, 150}});
+        drawCalibrationResult(bgr, {99.6, 100.4}, {255, 0, 255},
+                              std::vector<QPointF>{{30, 40}, {170, 150}}, {0, 165, 255});
         const cv::Vec3b magenta(255, 0, 255);
         const cv::Vec3b orange(0, 165, 255);
         for (const cv::Point offset : {cv::Point(0, 0), {23, 0}, {-23, 0}, {0, 23}, {0, -23}})
@@ -303,7 +304,7 @@ private slots:
     {
         QFETCH(QPointF, centre);
         cv::Mat bgr(100, 100, CV_8UC3, cv::Scalar::all(0));
-        drawCalibrationResult(bgr, centre, {});
+        drawCalibrationResult(bgr, centre, {255, 0, 255}, {}, {0, 165, 255});
         QCOMPARE(cv::norm(bgr), 0.0);
     }
 };
