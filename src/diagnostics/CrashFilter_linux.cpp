@@ -1,13 +1,12 @@
 #include "diagnostics/CrashFilter.h"
 
 #include "diagnostics/CrashSignals.h"
+#include "diagnostics/LoadedModule.h"
 #include "diagnostics/SignalStack.h"
 #include "diagnostics/ThrowSite.h"
 
 #include <cxxabi.h>
-#include <dlfcn.h>
 #include <fcntl.h>
-#include <link.h>
 #include <pthread.h>
 #include <sys/stat.h>
 #include <ucontext.h>
@@ -21,9 +20,8 @@
 #include <exception>
 #include <memory>
 
-// Whatever runs below after a signal may call functions that are safe in signal handlers only:
-// neither the heap nor a lock that the interrupted code may hold. dladdr() takes the loader's lock;
-// _dl_find_object() does not.
+// Whatever runs after a signal calls only what is safe in a signal handler: nothing that uses the
+// heap or takes a lock that the interrupted code may hold.
 
 namespace meridax::crash {
 
@@ -45,7 +43,7 @@ const Prepared *prepared = nullptr;
 /// The thread that writes the report; 0 while all is well.
 std::atomic<pid_t> reportingThread = 0;
 std::atomic<int> reportedSignal = 0;
-static_assert(std::atomic<pid_t>::is_always_lock_free && std::atomic<int>::is_always_lock_free);
+static_assert(std::atomic<int>::is_always_lock_free && sizeof(pid_t) == sizeof(int));
 
 void restoreDefault(int signal)
 {
@@ -91,9 +89,10 @@ bool claimReport(int signal)
         limitReportTime();
         return true;
     }
-    while (owner != self)
+    if (owner == self)
+        return false;
+    while (true)
         pause();
-    return false;
 }
 
 void writeAll(std::intptr_t handle, const char *data, std::size_t size)
@@ -111,17 +110,12 @@ void writeAll(std::intptr_t handle, const char *data, std::size_t size)
 
 void writeModuleOf(const ReportFile &file, std::uintptr_t address)
 {
-    dl_find_object found{};
-    if (_dl_find_object(reinterpret_cast<void *>(address), &found) != 0) {
-        writeModule(file, nullptr, 0);
-        return;
-    }
-    const char *path = found.dlfo_link_map->l_name;
-    if (!path || !*path)
+    const LoadedModule module = findLoadedModule(address);
+    const char *path = module.path;
+    if (path && !*path)
         path = prepared->program.c_str();
-    const char *const slash = std::strrchr(path, '/');
-    writeModule(file, slash ? slash + 1 : path,
-                address - reinterpret_cast<std::uintptr_t>(found.dlfo_map_start));
+    const char *const slash = path ? std::strrchr(path, '/') : nullptr;
+    writeModule(file, slash ? slash + 1 : path, address - module.base);
 }
 
 void writeReport(std::uint32_t code, std::uintptr_t address)

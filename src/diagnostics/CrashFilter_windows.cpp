@@ -15,7 +15,7 @@ namespace {
 
 /// What one C++ run-time library throws by; uncaught, it stands for any C++ exception.
 constexpr DWORD kOtherCppException = 0x20474343;
-constexpr ULONG kStackLeftForFilter = 64 * 1024;
+constexpr ULONG kStackLeftForFilter = 65536;
 constexpr UINT kAbortExitCode = 3; ///< as of abort() itself
 
 /// Set before the filter is, and never destroyed: other threads may crash at any time.

@@ -12,7 +12,7 @@ namespace meridax::crash {
 
 namespace {
 
-constexpr std::size_t kSize = 64 * 1024;
+constexpr std::size_t kSize = 65536;
 /// The kernel keeps 256 pages free below the stack of the first thread.
 constexpr std::size_t kFirstThreadGuardPages = 256;
 

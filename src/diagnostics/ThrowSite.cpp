@@ -1,6 +1,7 @@
 #include "diagnostics/ThrowSite.h"
 
-#include <dlfcn.h>
+#include "diagnostics/LoadedModule.h"
+
 #include <unwind.h>
 
 namespace meridax::crash {
@@ -19,7 +20,7 @@ _Unwind_Reason_Code visitFrame(_Unwind_Context *frame, void *data)
 {
     auto &search = *static_cast<Search *>(data);
     const auto address = static_cast<std::uintptr_t>(_Unwind_GetIP(frame));
-    const std::uintptr_t base = moduleBase(address);
+    const std::uintptr_t base = findLoadedModule(address).base;
     if (base == search.runtimeBase) {
         search.isBeyondHandler = true; // the handler's own frames lie before
         return _URC_NO_REASON;
@@ -32,19 +33,11 @@ _Unwind_Reason_Code visitFrame(_Unwind_Context *frame, void *data)
 
 } // namespace
 
-std::uintptr_t moduleBase(std::uintptr_t address)
-{
-    dl_find_object found{};
-    if (_dl_find_object(reinterpret_cast<void *>(address), &found) != 0)
-        return 0;
-    return reinterpret_cast<std::uintptr_t>(found.dlfo_map_start);
-}
-
 std::uintptr_t findThrowSite(std::uintptr_t runtime)
 {
-    Search search{.runtimeBase = moduleBase(runtime),
-                  .unwinderBase =
-                      moduleBase(reinterpret_cast<std::uintptr_t>(&_Unwind_RaiseException))};
+    const auto unwinder = reinterpret_cast<std::uintptr_t>(&_Unwind_RaiseException);
+    Search search{.runtimeBase = findLoadedModule(runtime).base,
+                  .unwinderBase = findLoadedModule(unwinder).base};
     _Unwind_Backtrace(visitFrame, &search);
     return search.site ? search.site : runtime;
 }

@@ -9,8 +9,4 @@ namespace meridax::crash {
 /// nor to its unwinder. `runtime` itself when there is none.
 std::uintptr_t findThrowSite(std::uintptr_t runtime);
 
-/// Base address of the loaded module that holds `address`, 0 if none does. May be called from a
-/// signal handler.
-std::uintptr_t moduleBase(std::uintptr_t address);
-
 } // namespace meridax::crash
