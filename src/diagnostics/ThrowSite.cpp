@@ -35,7 +35,7 @@ _Unwind_Reason_Code visitFrame(_Unwind_Context *frame, void *data)
 
 std::uintptr_t findThrowSite(std::uintptr_t runtime)
 {
-    const auto unwinder = reinterpret_cast<std::uintptr_t>(&_Unwind_RaiseException);
+    const auto unwinder = reinterpret_cast<std::uintptr_t>(&_Unwind_GetIP);
     Search search{.runtimeBase = findLoadedModule(runtime).base,
                   .unwinderBase = findLoadedModule(unwinder).base};
     _Unwind_Backtrace(visitFrame, &search);

@@ -74,7 +74,7 @@ void throwThroughNoexcept() noexcept
 }
 
 // NOLINTNEXTLINE(misc-no-recursion)
-[[gnu::noinline]] int recurse(int depth)
+[[gnu::noinline, gnu::no_sanitize("address", "thread", "undefined")]] int recurse(int depth)
 {
     volatile char frame[256];
     frame[depth % 256] = 1;
