@@ -37,6 +37,8 @@ ActivationServer::ActivationServer(std::function<void()> onActivation, QObject *
     : QObject(parent)
     , m_onActivation(std::move(onActivation))
 {
+    // The owner of the window alone may raise it.
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
     // A crashed run leaves its socket behind.
     QLocalServer::removeServer(serverName());
     if (!m_server.listen(serverName())) {
