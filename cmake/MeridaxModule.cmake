@@ -45,24 +45,30 @@ qt_add_qml_module(meridax_module
         src/viewmodel/CameraViewModel.cpp src/viewmodel/CameraViewModel.h
         src/viewmodel/CameraViewModel_calibration.cpp
         src/viewmodel/CameraViewModel_camera.cpp
+        src/viewmodel/CameraViewModel_crash.cpp
         src/viewmodel/CameraViewModel_focus.cpp
+        src/viewmodel/CameraViewModel_legal.cpp
         src/viewmodel/CameraViewModel_overlay.cpp
         src/viewmodel/CameraViewModel_presets.cpp
         src/viewmodel/CameraViewModel_profile.cpp
         src/viewmodel/CameraViewModel_screenshot.cpp
         src/viewmodel/CameraViewModel_settings.cpp
+        src/viewmodel/CameraViewModel_support.cpp
+        src/viewmodel/CameraViewModel_update.cpp
         src/viewmodel/ExposureMigration.h
         src/viewmodel/LanguageSwitch.cpp src/viewmodel/LanguageSwitch.h
+        src/viewmodel/ScreenshotFile.cpp src/viewmodel/ScreenshotFile.h
 )
 target_include_directories(meridax_module PUBLIC ${PROJECT_SOURCE_DIR}/src
     # The generated type registration includes headers by their bare names.
     PRIVATE src/camera src/items src/viewmodel)
 target_link_libraries(meridax_module
-    PUBLIC meridax_diagnostics meridax_settings meridax_camera meridax_measurement
+    PUBLIC meridax_diagnostics meridax_settings meridax_camera meridax_measurement meridax_server
         Qt6::Quick Qt6::QuickControls2 Qt6::Multimedia Qt6::Svg Qt6::Network
     PRIVATE meridax_options meridax_buildinfo)
 
 file(GLOB _resources RELATIVE ${PROJECT_SOURCE_DIR}/resources CONFIGURE_DEPENDS
-    ${PROJECT_SOURCE_DIR}/resources/*.svg ${PROJECT_SOURCE_DIR}/resources/*.png)
+    ${PROJECT_SOURCE_DIR}/resources/*.svg ${PROJECT_SOURCE_DIR}/resources/*.png
+    ${PROJECT_SOURCE_DIR}/resources/*.md)
 list(TRANSFORM _resources PREPEND resources/)
 qt_add_resources(meridax_module "meridax_resources" PREFIX "/" FILES ${_resources})

@@ -22,6 +22,8 @@ CameraViewModel::CameraViewModel()
     m_saveTimer.setInterval(400ms);
 
     connectFocusPresets();
+    loadCachedLegalDocuments();
+    connectServer();
     m_settings = loadSettings();
     // A centre in pixels counts only for the camera and resolution it was measured with, which
     // nobody knows before the camera runs. The lock is the user's own and stays.
@@ -41,6 +43,8 @@ CameraViewModel::CameraViewModel()
             &CameraViewModel::refreshCameras);
     refreshCameras();
     m_controller.updateSettings(m_settings);
+    // The window comes first.
+    QTimer::singleShot(0, this, &CameraViewModel::contactServer);
 }
 
 CameraViewModel::~CameraViewModel()
@@ -67,6 +71,29 @@ void CameraViewModel::connectController()
             });
     connect(&m_controller, &CameraController::cameraCapabilitiesDetected, this,
             &CameraViewModel::onCapabilitiesDetected);
+}
+
+void CameraViewModel::connectServer()
+{
+    m_supportClient.setBaseUrl(m_serverConfig.apiBaseUrl);
+    connect(&m_supportClient, &SupportApiClient::updateInfoFinished, this,
+            &CameraViewModel::onUpdateInfo);
+    connect(&m_supportClient, &SupportApiClient::legalDocumentFinished, this,
+            &CameraViewModel::onLegalDocument);
+    connect(&m_supportClient, &SupportApiClient::featureRequestFinished, this,
+            &CameraViewModel::onFeatureRequest);
+    connect(&m_supportClient, &SupportApiClient::feedbackFinished, this,
+            &CameraViewModel::onFeedback);
+    connect(&m_supportClient, &SupportApiClient::bugReportFinished, this,
+            &CameraViewModel::onBugReport);
+}
+
+/// Nothing waits for the server, and without one nobody is told.
+void CameraViewModel::contactServer()
+{
+    checkForUpdates();
+    if (!legalDocsReady())
+        fetchLegalDocuments();
 }
 
 void CameraViewModel::onStatus(const QString &status)

@@ -2,6 +2,10 @@
 
 #include "camera/CameraCapabilities.h"
 #include "camera/CameraController.h"
+#include "server/LegalDocumentCache.h"
+#include "server/MachineGuid.h"
+#include "server/ServerConfig.h"
+#include "server/SupportApiClient.h"
 #include "settings/AppSettings.h"
 #include "settings/FocusPreset.h"
 #include "viewmodel/CameraList.h"
@@ -15,6 +19,7 @@
 #include <QTimer>
 #include <QTranslator>
 #include <QVariantList>
+#include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
 #include <type_traits>
@@ -72,9 +77,9 @@ private:
 // clang-format on
 
 /// The one object the interface sees: every value the panels show is a property of it, everything
-/// they do is one of its slots. It owns the camera controller and the only live copy of the
-/// settings, hands the whole record to the controller after each change and schedules the writing
-/// of the settings file.
+/// they do is one of its slots. It owns the camera controller, the client of the support server and
+/// the only live copy of the settings, hands the whole record to the controller after each change
+/// and schedules the writing of the settings file.
 ///
 /// Lives in the GUI thread; holds no lock. Positions and lengths are in pixels of the camera frame
 /// (origin top left, y downwards) unless they say otherwise, angles in degrees. Setters do not
@@ -235,11 +240,49 @@ class CameraViewModel : public QObject
     Q_PROPERTY(int savedWindowY READ savedWindowY NOTIFY appSettingsChanged)
     Q_PROPERTY(bool savedWindowMaximized READ savedWindowMaximized NOTIFY appSettingsChanged)
 
+    // Update and server; release notes are Markdown of the server's
+    Q_PROPERTY(bool updateAvailable READ updateAvailable NOTIFY updateInfoChanged)
+    Q_PROPERTY(bool updateBannerVisible READ updateBannerVisible NOTIFY updateInfoChanged)
+    Q_PROPERTY(bool isBetaTester READ isBetaTester NOTIFY updateInfoChanged)
+    Q_PROPERTY(bool bugReportsEnabled READ bugReportsEnabled NOTIFY updateInfoChanged)
+    Q_PROPERTY(bool featureRequestsEnabled READ featureRequestsEnabled NOTIFY updateInfoChanged)
+    Q_PROPERTY(QString updateVersion READ updateVersion NOTIFY updateInfoChanged)
+    Q_PROPERTY(QString updateChannel READ updateChannel NOTIFY updateInfoChanged)
+    Q_PROPERTY(QString updateDownloadUrl READ updateDownloadUrl NOTIFY updateInfoChanged)
+    Q_PROPERTY(QString updateReleaseNotes READ updateReleaseNotes NOTIFY updateInfoChanged)
+    Q_PROPERTY(QString latestStableVersion READ latestStableVersion NOTIFY updateInfoChanged)
+    Q_PROPERTY(
+        QString latestStableDownloadUrl READ latestStableDownloadUrl NOTIFY updateInfoChanged)
+    Q_PROPERTY(QString serverApiVersion READ serverApiVersion NOTIFY serverInfoStateChanged)
+    Q_PROPERTY(QString serverCommitSha READ serverCommitSha NOTIFY serverInfoStateChanged)
+    Q_PROPERTY(QString serverBuildTime READ serverBuildTime NOTIFY serverInfoStateChanged)
+
+    // Support: one state for bug reports, feature requests and feedback
+    Q_PROPERTY(bool bugReportPending READ bugReportPending NOTIFY bugReportStateChanged)
+    Q_PROPERTY(bool bugReportSuccess READ bugReportSuccess NOTIFY bugReportStateChanged)
+    Q_PROPERTY(QString bugReportError READ bugReportError NOTIFY bugReportStateChanged)
+    Q_PROPERTY(QString bugReportMessage READ bugReportMessage NOTIFY bugReportStateChanged)
+
+    // Crash of an earlier run; both are read from the file each time
+    Q_PROPERTY(bool hasUnsentCrash READ hasUnsentCrash NOTIFY crashStateChanged)
+    Q_PROPERTY(QString lastCrashReport READ lastCrashReport NOTIFY crashStateChanged)
+
+    // Legal documents; Markdown of the server's
+    Q_PROPERTY(QString eulaVersion READ eulaVersion NOTIFY legalDocsChanged)
+    Q_PROPERTY(QString eulaMarkdown READ eulaMarkdown NOTIFY legalDocsChanged)
+    Q_PROPERTY(QString privacyVersion READ privacyVersion NOTIFY legalDocsChanged)
+    Q_PROPERTY(QString privacyMarkdown READ privacyMarkdown NOTIFY legalDocsChanged)
+    Q_PROPERTY(bool legalDocsLoading READ legalDocsLoading NOTIFY legalDocsChanged)
+    Q_PROPERTY(bool legalDocsReady READ legalDocsReady NOTIFY legalDocsChanged)
+    Q_PROPERTY(QString legalDocsError READ legalDocsError NOTIFY legalDocsChanged)
+
     // Constants
     Q_PROPERTY(QString docsUrl READ docsUrl CONSTANT)
     Q_PROPERTY(QString appVersion READ appVersion CONSTANT)
     Q_PROPERTY(QString appCommitSha READ appCommitSha CONSTANT)
     Q_PROPERTY(QString appBuildTime READ appBuildTime CONSTANT)
+    Q_PROPERTY(QString installedReleaseNotes READ installedReleaseNotes CONSTANT)
+    Q_PROPERTY(QString serverHost READ serverHost CONSTANT)
     Q_PROPERTY(meridax::CameraController *controller READ controller CONSTANT)
 
 public:
@@ -342,10 +385,45 @@ public:
     int savedWindowY() const { return m_settings.windowY; }
     bool savedWindowMaximized() const { return m_settings.windowMaximized; }
 
+    bool updateAvailable() const;
+    bool updateBannerVisible() const { return m_updateBannerVisible; }
+    bool isBetaTester() const { return m_updateInfo.isBetaTester; }
+    bool bugReportsEnabled() const { return m_updateInfo.bugReportsEnabled; }
+    bool featureRequestsEnabled() const { return m_updateInfo.featureRequestsEnabled; }
+    QString updateVersion() const { return m_updateInfo.latest.version; }
+    QString updateChannel() const { return m_updateInfo.latest.channel; }
+    QString updateDownloadUrl() const { return m_updateInfo.latest.downloadUrl; }
+    QString updateReleaseNotes() const { return m_updateInfo.latest.releaseNotes; }
+    QString latestStableVersion() const { return m_updateInfo.latestStable.version; }
+    QString latestStableDownloadUrl() const { return m_updateInfo.latestStable.downloadUrl; }
+    QString serverApiVersion() const { return m_updateInfo.server.apiVersion; }
+    QString serverCommitSha() const { return m_updateInfo.server.commitSha; }
+    QString serverBuildTime() const { return m_updateInfo.server.buildTime; }
+
+    bool bugReportPending() const { return m_bugReportPending; }
+    bool bugReportSuccess() const { return m_bugReportSuccess; }
+    QString bugReportError() const { return m_bugReportError; }
+    QString bugReportMessage() const { return m_bugReportMessage; }
+
+    bool hasUnsentCrash() const;
+    QString lastCrashReport() const;
+
+    QString eulaVersion() const { return m_legalDocs.eulaVersion; }
+    QString eulaMarkdown() const { return m_legalDocs.eulaMarkdown; }
+    QString privacyVersion() const { return m_legalDocs.privacyVersion; }
+    QString privacyMarkdown() const { return m_legalDocs.privacyMarkdown; }
+    bool legalDocsLoading() const { return m_legalDocsLoading; }
+    bool legalDocsReady() const;
+    QString legalDocsError() const { return m_legalDocsError; }
+
     QString docsUrl() const;
     QString appVersion() const;
     QString appCommitSha() const;
     QString appBuildTime() const;
+    /// Markdown: what is new in this and the earlier versions.
+    QString installedReleaseNotes() const;
+    /// The address of the support server.
+    QString serverHost() const { return m_serverConfig.apiBaseUrl; }
     CameraController *controller() { return &m_controller; }
 
 public slots:
@@ -373,9 +451,45 @@ public slots:
     /// Whether the section `key` was left closed, `defaultCollapsed` when nothing is remembered.
     bool sectionCollapsed(const QString &key, bool defaultCollapsed) const;
     void setSectionCollapsed(const QString &key, bool collapsed);
-    void copyToClipboard(const QString &text);
+
+    /// Hides the update banner for this version, also after a restart.
+    void dismissUpdateBanner();
+    /// Opens the download address of the update in the browser.
+    void openUpdateDownload() const;
+    /// Opens the download address of the latest stable version in the browser.
+    void openStableDownload() const;
+    /// Opens a link of the server's Markdown in the browser, if it is http or https.
+    void openLink(const QString &address) const;
+
+    /// Sends a bug report without the log. Like the other submissions it does nothing while one is
+    /// under way; the result is told by bugReportStateChanged. The screenshot is a file in Base64
+    /// with its type, or empty.
+    void submitBugReport(const QString &title, const QString &description,
+                         const QString &screenshotBase64, const QString &screenshotMime,
+                         const QString &category = {});
+    void clearBugReportState();
+    /// Reads a PNG or JPEG file of at most 5 MB, given as a path or as a file URL. The map has
+    /// "success" and either "error", or "base64", "mime" and "sizeBytes".
+    QVariantMap loadScreenshotFile(const QString &path) const;
     /// The newest `lines` lines of the log, all that are remembered for `lines` below 1.
     QString getLogTail(int lines = 200) const;
+    void copyToClipboard(const QString &text);
+    /// Sends the report of the crash as a bug report, after the user's own words.
+    void sendCrashReport(const QString &additionalDescription = {});
+    /// Drops the report of the crash without sending it.
+    void dismissCrashReport();
+    /// The title under which the report of the crash is sent; empty without one.
+    QString crashReportTitle() const;
+    void submitBugReportWithLogs(const QString &title, const QString &description,
+                                 const QString &screenshotBase64, const QString &screenshotMime,
+                                 bool includeLogs, const QString &category = {});
+    void submitFeatureRequest(const QString &title, const QString &description,
+                              const QString &screenshotBase64, const QString &screenshotMime,
+                              const QString &category = {});
+    /// `rating` is 1 to 5; any other sends nothing.
+    void submitFeedback(int rating, const QString &comment);
+    /// Fetches the legal texts anew; those in memory are dropped at once.
+    void fetchLegalDocuments();
 
     /// Starts the selected camera; success is known when `running` turns true.
     void startCamera();
@@ -427,6 +541,11 @@ signals:
     void profileSettingsChanged();
     void calibrationSettingsChanged();
     void appSettingsChanged();
+    void updateInfoChanged();
+    void serverInfoStateChanged();
+    void bugReportStateChanged();
+    void crashStateChanged();
+    void legalDocsChanged();
 
 private:
     using Notify = void (CameraViewModel::*)();
@@ -436,6 +555,7 @@ private:
     void connectCalibration();
     void connectFocus();
     void connectFocusPresets();
+    void connectServer();
 
     /// The common end of a setter that concerns the camera: the controller takes the whole record,
     /// the interface hears of it, the file is written after the last of a burst of changes.
@@ -496,6 +616,29 @@ private:
     void migrateExposure();
     void writeSettings() const;
 
+    void contactServer();
+    void checkForUpdates();
+    void onUpdateInfo(bool success, const UpdateInfo &info, const QString &error);
+    void openDownload(const QString &address) const;
+
+    RequestSender sender() const;
+    ReportRequest report(const QString &title, const QString &description,
+                         const QString &screenshotBase64, const QString &screenshotMime,
+                         const QString &category) const;
+    void sendBugReport(const ReportRequest &request, bool includeLogs);
+    void resetSubmission(bool pending);
+    void storeSubmissionResult(bool success, const QString &message, const QString &errorCode);
+    void onBugReport(bool success, const QString &bugId, const QString &message,
+                     const QString &errorCode);
+    void onFeatureRequest(bool success, const QString &requestId, const QString &message,
+                          const QString &errorCode);
+    void onFeedback(bool success, const QString &feedbackId, const QString &message,
+                    const QString &errorCode);
+
+    void loadCachedLegalDocuments();
+    void onLegalDocument(bool success, const QString &kind, const LegalDocument &document,
+                         const QString &error);
+
     CameraController m_controller;
     AppSettings m_settings;
     CameraCapabilities m_capabilities;
@@ -544,6 +687,24 @@ private:
 
     QTimer m_saveTimer;
     QTranslator m_translator;
+
+    SupportApiClient m_supportClient{this};
+    const ServerConfig m_serverConfig = ServerConfig::load();
+    const QString m_machineGuid = machineGuid();
+
+    UpdateInfo m_updateInfo;
+    bool m_updateCheckStarted = false;
+    bool m_updateBannerVisible = false;
+    QString m_dismissedVersion;
+
+    bool m_bugReportPending = false;
+    bool m_bugReportSuccess = false;
+    QString m_bugReportError;
+    QString m_bugReportMessage;
+
+    LegalDocsRecord m_legalDocs;
+    bool m_legalDocsLoading = false;
+    QString m_legalDocsError;
 };
 
 #undef MERIDAX_CONTROL_RANGE
