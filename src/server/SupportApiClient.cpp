@@ -41,7 +41,8 @@ class Intake
 public:
     void read(QNetworkReply &reply)
     {
-        if (m_refused)
+        // An aborted reply is closed.
+        if (m_refused || !reply.isOpen())
             return;
         m_body += reply.readAll();
         if (m_body.size() <= SupportApiClient::kMaxReplyBytes)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CachedLegalTexts.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/CameraViewModel.h"
 
@@ -40,6 +41,7 @@ inline void prepareProcess()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Tarnwick Optics"));
     QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
+    cacheLegalTexts();
     // Qt Multimedia warns at its first use on a machine without a sound server.
     const QMediaDevices devices;
 }

@@ -1,3 +1,5 @@
+#include "CachedLegalTexts.h"
+
 #include "camera/CameraController.h"
 
 #include <QQmlContext>
@@ -48,6 +50,7 @@ class Setup : public QObject
 public slots:
     void applicationAvailable()
     {
+        cacheLegalTexts();
         QQuickStyle::setStyle(QStringLiteral("Material"));
         qml_register_types_Meridax();
     }

@@ -1,3 +1,5 @@
+#include "CachedLegalTexts.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
@@ -71,6 +73,7 @@ class Setup : public QObject
 public slots:
     void applicationAvailable()
     {
+        cacheLegalTexts();
         QQuickStyle::setStyle(QStringLiteral("Material"));
         qml_register_types_Meridax();
     }
