@@ -11,6 +11,7 @@
 #include <chrono>
 #include <cstring>
 #include <semaphore>
+#include <vector>
 
 using namespace meridax;
 using Clock = std::chrono::steady_clock;
@@ -144,7 +145,7 @@ void registerAll()
             ->Arg(1080)
             ->Arg(2448)
             ->Unit(benchmark::kMillisecond)
-            ->Repetitions(5)
+            ->Repetitions(9)
             ->ReportAggregatesOnly();
     };
     const auto addManual = [](const char *name, auto function, auto... arguments) {
@@ -155,7 +156,7 @@ void registerAll()
             ->Unit(benchmark::kMillisecond)
             ->UseManualTime()
             ->Iterations(15)
-            ->Repetitions(5)
+            ->Repetitions(9)
             ->ReportAggregatesOnly();
     };
     add("memcpy", copyOfTheFrame);
@@ -173,7 +174,12 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
     registerAll();
-    benchmark::Initialize(&argc, argv);
+    // Interleaved, so that whatever else the machine does meets all paths alike.
+    char interleaved[] = "--benchmark_enable_random_interleaving=true";
+    std::vector<char *> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + 1, interleaved);
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
     RatioReport report;
     benchmark::RunSpecifiedBenchmarks(&report);
 }
