@@ -92,8 +92,11 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(withoutConsole);
     LogManager::install();
 
-    benchmark::RegisterBenchmark("fwrite + fflush", bareWrite)->Threads(1)->Threads(4);
-    benchmark::RegisterBenchmark("log line", logLine)->Threads(1)->Threads(4);
+    benchmark::RegisterBenchmark("fwrite + fflush", bareWrite)
+        ->Threads(1)
+        ->Threads(4)
+        ->UseRealTime();
+    benchmark::RegisterBenchmark("log line", logLine)->Threads(1)->Threads(4)->UseRealTime();
     for (const bool hasHandler : {false, true}) {
         benchmark::RegisterBenchmark(hasHandler ? "crash, reported" : "crash, bare", crash,
                                      hasHandler)
