@@ -35,6 +35,7 @@ qt_add_qml_module(meridax_module
         src/camera/CameraController_pipeline.cpp
         src/camera/FrameWatchdog.cpp src/camera/FrameWatchdog.h
         src/items/FrameMapping.cpp src/items/FrameMapping.h
+        src/items/LinkColor.cpp src/items/LinkColor.h
         src/items/SvgItem.cpp src/items/SvgItem.h
         src/items/VideoFrameItem.cpp src/items/VideoFrameItem.h
         src/measurement/CalibrationSession.h

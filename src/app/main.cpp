@@ -2,6 +2,7 @@
 #include "app/TitleBar.h"
 #include "diagnostics/CrashHandler.h"
 #include "diagnostics/LogManager.h"
+#include "items/LinkColor.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/LanguageSwitch.h"
 
@@ -78,6 +79,7 @@ int main(int argc, char *argv[])
     QQuickStyle::setStyle(QStringLiteral("Material"));
     QTranslator translator;
     installLanguage(translator);
+    setLinkColor();
 
     QQmlApplicationEngine engine;
     setQmlEngine(&engine);

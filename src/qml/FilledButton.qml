@@ -8,11 +8,15 @@ Button {
     implicitHeight: 40
     topInset: 0
     bottomInset: 0
+    verticalPadding: 4
     Material.foreground: "white"
     Material.roundedScale: Material.ExtraSmallScale
 
     Accessible.role: Accessible.Button
     Accessible.name: text
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
 
     FocusFrame {
         visible: root.visualFocus

@@ -68,6 +68,16 @@ ApplicationWindow {
         ViewModel.saveWindowGeometry(px, py, w, h, maximized);
     }
 
+    function report(kind: string) {
+        bugReportDialog.reportKind = kind;
+        bugReportDialog.open();
+    }
+
+    function showReleaseNotes(installed: bool) {
+        whatsNewDialog.showInstalled = installed;
+        whatsNewDialog.open();
+    }
+
     // `visible` is deliberately not set: it shares its state with `visibility` and would undo
     // Window.Maximized. The saved values are constant at run time, so these bindings are evaluated
     // once.
@@ -153,14 +163,80 @@ ApplicationWindow {
         visible: !ViewModel.running
     }
 
+    UpdateBanner {
+        id: updateBanner
+
+        objectName: "updateBanner"
+        z: 5
+        anchors {
+            top: parent.top
+            left: parent.left
+            right: parent.right
+        }
+        onOpenWhatsNew: root.showReleaseNotes(false)
+    }
+
+    WhatsNewDialog {
+        id: whatsNewDialog
+
+        objectName: "whatsNewDialog"
+        z: 30
+    }
+
     TopBar {
         id: topBar
 
         objectName: "topBar"
         anchors {
-            top: parent.top
+            top: updateBanner.bottom
             left: parent.left
             right: parent.right
+        }
+        onSettingsRequested: settingsPanel.open()
+    }
+
+    SettingsPanel {
+        id: settingsPanel
+
+        objectName: "settingsPanel"
+        onOpenBugReportDialog: root.report("bug")
+        onOpenFeatureRequestDialog: root.report("feature")
+        onOpenFeedbackDialog: feedbackDialog.open()
+        onOpenAboutDialog: aboutDialog.open()
+        onOpenScreenshotPathDialog: screenshotFolderDialog.open()
+    }
+
+    BugReportDialog {
+        id: bugReportDialog
+
+        objectName: "bugReportDialog"
+        z: 22
+    }
+
+    FeedbackDialog {
+        id: feedbackDialog
+
+        objectName: "feedbackDialog"
+        z: 22
+    }
+
+    AboutDialog {
+        id: aboutDialog
+
+        objectName: "aboutDialog"
+        z: 23
+        onOpenWhatsNew: root.showReleaseNotes(true)
+    }
+
+    CrashRecoveryDialog {
+        objectName: "crashRecoveryDialog"
+        z: 30
+        // Otherwise it would lie over the dialog it hands over to, and a cancel there would not
+        // bring it back.
+        suppressed: bugReportDialog.visible
+        onOpenBugReportWithCrashDetails: {
+            root.report("bug");
+            bugReportDialog.prefillFromCrash();
         }
     }
 

@@ -5,19 +5,32 @@ import QtQuick.Controls.Material
 Flickable {
     id: root
 
+    property int scrollBarPolicy: ScrollBar.AsNeeded
+
     readonly property Item _focusItem: Window.window?.activeFocusItem ?? null
 
     function _showFocusItem() {
         if (!_isInside(_focusItem))
             return;
-        const top = _focusItem.mapToItem(contentItem, 0, 0).y;
-        const bottom = top + _focusItem.height;
+        const item = _scrolledWhole(_focusItem);
+        const top = item.mapToItem(contentItem, 0, 0).y;
+        const bottom = top + item.height;
         const margin = 8;
         if (top - margin < contentY)
             contentY = Math.max(0, top - margin);
         else if (bottom + margin > contentY + height - bottomMargin)
             contentY = Math.min(Math.max(0, contentHeight + bottomMargin - height),
                                 bottom + margin + bottomMargin - height);
+    }
+
+    /// A view inside this one moves its content by itself, so the view has to be seen.
+    function _scrolledWhole(item: Item): Item {
+        let whole = item;
+        for (let ancestor = item.parent; ancestor !== contentItem; ancestor = ancestor.parent) {
+            if (ancestor instanceof Flickable)
+                whole = ancestor;
+        }
+        return whole;
     }
 
     function _isInside(item: Item): bool {
@@ -37,7 +50,7 @@ Flickable {
     on_FocusItemChanged: _showFocusItem()
 
     ScrollBar.vertical: ScrollBar {
-        policy: ScrollBar.AsNeeded
+        policy: root.scrollBarPolicy
         minimumSize: 0.1
     }
 }

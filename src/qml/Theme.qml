@@ -9,6 +9,8 @@ QtObject {
     // A list of family names with a generic fallback: an alias alone costs a slow lookup at start,
     // and the list keeps glyph widths alike on all platforms.
     readonly property string monoFont: "Consolas, Menlo, monospace"
+    // QML takes a list for one name. Where the first is missing, fontconfig knows what it stands for.
+    readonly property string monoFamily: monoFont.split(", ")[Qt.platform.os === "osx" ? 1 : 0]
 
     readonly property color topBarBg: dark ? "#1A1A1A" : "#EAEAEA"
     // Translucent, as is handleBg: the live image shows through the side panels.

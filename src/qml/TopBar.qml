@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Material
-import QtQuick.Effects
 import QtQuick.Layouts
 import Meridax
 
@@ -20,6 +19,9 @@ Rectangle {
         return qsTr("Kamera nicht verbunden");
     }
 
+    /// The settings are to be shown.
+    signal settingsRequested()
+
     implicitHeight: 90
     color: Theme.topBarBg
 
@@ -32,26 +34,14 @@ Rectangle {
         }
         spacing: 10
 
-        MultiEffect {
-            visible: makerLogo.status === Image.Ready
-            source: makerLogo
-            colorization: 1
-            colorizationColor: Theme.logoColor
-            implicitWidth: makerLogo.implicitWidth / 2
-            implicitHeight: 56
+        MakerLogo {
+            id: makerLogo
 
-            Image {
-                id: makerLogo
-
-                source: "qrc:/resources/to_logo.png"
-                sourceSize.height: 112
-                visible: false
-                Accessible.ignored: true
-            }
+            logoHeight: 56
         }
 
         BarSeparator {
-            visible: makerLogo.status === Image.Ready
+            visible: makerLogo.visible
             color: Theme.separatorLine
         }
 
@@ -106,6 +96,16 @@ Rectangle {
 
         Item {
             Layout.fillWidth: true
+        }
+
+        SettingsLink {
+            objectName: "settingsButton"
+            onClicked: topBar.settingsRequested()
+        }
+
+        BarSeparator {
+            implicitHeight: 20
+            color: Theme.dividerStrong
         }
 
         Label {

@@ -16,14 +16,25 @@ set(meridax_qml_public
     src/qml/SettingsSpinBox.qml
     src/qml/SettingsComboBox.qml
     src/qml/InfoTooltip.qml
+    src/qml/SettingsPanel.qml
+    src/qml/UpdateBanner.qml
+    src/qml/BugReportDialog.qml
+    src/qml/FeedbackDialog.qml
+    src/qml/AboutDialog.qml
+    src/qml/CrashRecoveryDialog.qml
     src/qml/FocusPresetOverlay.qml
+    src/qml/WhatsNewDialog.qml
+    src/qml/LegalTextDialog.qml
 )
 
 # Parts of the types above. They have no entry in the module's qmldir and are found through the
 # import of their own folder.
 set(meridax_qml_internal
+    src/qml/AppearanceSettings.qml
     src/qml/BarSeparator.qml
+    src/qml/BetaTag.qml
     src/qml/BlobParameters.qml
+    src/qml/BuildBlock.qml
     src/qml/CalibrationHint.qml
     src/qml/CameraControlSlider.qml
     src/qml/CameraControls.qml
@@ -32,10 +43,17 @@ set(meridax_qml_internal
     src/qml/CenterDiagram.qml
     src/qml/CenterDialog.qml
     src/qml/CenterFigures.qml
+    src/qml/CenteredDialog.qml
     src/qml/ComboRow.qml
     src/qml/CompactSpinBox.qml
     src/qml/CompactSwitch.qml
     src/qml/CountRow.qml
+    src/qml/CountedLabel.qml
+    src/qml/CrashDetails.qml
+    src/qml/CrashFooter.qml
+    src/qml/CrashNote.qml
+    src/qml/DialogBand.qml
+    src/qml/DialogTitle.qml
     src/qml/FadingRing.qml
     src/qml/FadingToast.qml
     src/qml/FewPositionsWarning.qml
@@ -43,23 +61,35 @@ set(meridax_qml_internal
     src/qml/FigureValue.qml
     src/qml/FilledButton.qml
     src/qml/FitTable.qml
+    src/qml/FlatButton.qml
     src/qml/FocusFrame.qml
     src/qml/FocusPresetChip.qml
     src/qml/FocusTapArea.qml
     src/qml/FocusTapButton.qml
     src/qml/GlyphButton.qml
     src/qml/GuideSector.qml
+    src/qml/HeaderButton.qml
     src/qml/HelpSwitch.qml
     src/qml/HelpTip.qml
+    src/qml/HintTextArea.qml
+    src/qml/HintTextField.qml
+    src/qml/InfoSign.qml
     src/qml/InputShield.qml
+    src/qml/LanguageComboBox.qml
     src/qml/LegendEntry.qml
     src/qml/LineStyleRow.qml
+    src/qml/LinkLabel.qml
     src/qml/LiveView.qml
     src/qml/LockButton.qml
+    src/qml/LogOption.qml
+    src/qml/LogPreviewDialog.qml
+    src/qml/MakerLogo.qml
+    src/qml/MarkdownView.qml
     src/qml/MeasureButton.qml
     src/qml/MeasurementRow.qml
     src/qml/MeasurementTable.qml
     src/qml/ModalDim.qml
+    src/qml/NoticeBox.qml
     src/qml/OverlayButton.qml
     src/qml/OverlayCanvas.qml
     src/qml/OverlayTextField.qml
@@ -67,20 +97,37 @@ set(meridax_qml_internal
     src/qml/PanelHandle.qml
     src/qml/PanelTabBar.qml
     src/qml/PanelTabButton.qml
+    src/qml/ProfileSettings.qml
     src/qml/QualityStrip.qml
+    src/qml/ReadOnlyText.qml
+    src/qml/ReadingDialog.qml
     src/qml/RoundIconButton.qml
     src/qml/RoundnessCanvas.qml
     src/qml/RoundnessDiagram.qml
     src/qml/ScaleButton.qml
     src/qml/ScreenshotButton.qml
     src/qml/ScreenshotFolderDialog.qml
+    src/qml/ScreenshotPicker.qml
+    src/qml/ScreenshotSettings.qml
     src/qml/SectionChevron.qml
     src/qml/SelectionComboBox.qml
+    src/qml/SettingsCheckBox.qml
+    src/qml/SettingsColumn.qml
+    src/qml/SettingsDivider.qml
+    src/qml/SettingsHeader.qml
+    src/qml/SettingsLink.qml
     src/qml/SidePanel.qml
     src/qml/SliderValueDisplay.qml
     src/qml/SliderValueEditor.qml
+    src/qml/StarButton.qml
+    src/qml/StarRow.qml
     src/qml/StatusBar.qml
     src/qml/StepButton.qml
+    src/qml/SubmissionFooter.qml
+    src/qml/SubmissionStatus.qml
+    src/qml/SupportButton.qml
+    src/qml/SupportDialog.qml
+    src/qml/SupportSettings.qml
     src/qml/SweepIndicator.qml
     src/qml/TopBar.qml
     src/qml/TypingEnd.qml
@@ -90,6 +137,7 @@ set(meridax_qml_internal
     src/qml/ZoomControl.qml
     src/qml/ZoomStepButton.qml
     src/qml/folderUrl.mjs
+    src/qml/markdownText.mjs
     src/qml/overlayGeometry.mjs
     src/qml/plotGeometry.mjs
 )

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Controls.Material
+import Meridax
+
+/// A small tool button in a title band or banner.
+ToolButton {
+    id: root
+
+    property string toolTip
+
+    implicitHeight: 36
+    icon.width: 18
+    icon.height: 18
+    font.pixelSize: 13
+    Material.foreground: Theme.text
+
+    Accessible.role: Accessible.Button
+    Accessible.name: toolTip
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    FocusFrame {
+        anchors.margins: 2
+        visible: root.visualFocus
+    }
+
+    HelpTip {
+        visible: root.hovered && root.toolTip !== "" && ViewModel.showTooltips
+        delay: 400
+        text: root.toolTip
+    }
+}

@@ -1,0 +1,35 @@
+import QtQuick
+import QtQuick.Controls.Material
+
+/// A link in a line of text.
+AbstractButton {
+    id: root
+
+    required property color color
+
+    font.pixelSize: 11
+    focusPolicy: Qt.TabFocus
+
+    Accessible.role: Accessible.Link
+    Accessible.name: text
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    contentItem: Label {
+        text: root.text
+        font {
+            pixelSize: root.font.pixelSize
+            underline: root.hovered
+        }
+        color: root.color
+    }
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    FocusFrame {
+        visible: root.visualFocus
+    }
+}

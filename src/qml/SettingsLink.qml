@@ -1,0 +1,35 @@
+import QtQuick
+import QtQuick.Controls.Material
+import Meridax
+
+/// The word in the top bar that opens the settings.
+AbstractButton {
+    id: root
+
+    text: qsTr("Einstellungen")
+    padding: 6
+    font.pixelSize: 11
+    focusPolicy: Qt.TabFocus
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    contentItem: Label {
+        text: root.text
+        font: root.font
+        color: root.hovered ? Theme.text : Theme.textMuted
+
+        Behavior on color {
+            ColorAnimation {
+                duration: 150
+            }
+        }
+    }
+
+    FocusFrame {
+        visible: root.visualFocus
+    }
+}

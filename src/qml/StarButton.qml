@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Controls.Material
+import Meridax
+
+/// One star of a rating.
+RoundIconButton {
+    id: root
+
+    required property string name
+    required property bool filled
+    /// It is the last one that is filled.
+    required property bool chosen
+
+    implicitWidth: 44
+    implicitHeight: 44
+    icon.source: filled ? "qrc:/resources/icon_star_filled.svg" : "qrc:/resources/icon_star.svg"
+    icon.width: 32
+    icon.height: 32
+    icon.color: filled ? "#FFC107" : Theme.textMuted
+    toolTip: name
+
+    Accessible.role: Accessible.RadioButton
+    Accessible.checkable: true
+    Accessible.checked: chosen
+
+    FocusFrame {
+        radius: height / 2
+        anchors.margins: 0
+        visible: root.visualFocus
+    }
+}
