@@ -55,14 +55,24 @@ void TestDesk::removeData(const QString &name)
     QFile::remove(dataFile(name));
 }
 
-QUrl TestDesk::image(const QString &name, const QString &format) const
+QUrl TestDesk::image(const QString &name, const QString &format, qint64 bytes) const
 {
     QImage picture(4, 3, QImage::Format_RGB888);
     picture.fill(Qt::red);
     const QString path = m_folder.filePath(name);
     if (!picture.save(path, format.toLatin1().constData()))
         qFatal("%s cannot be written", qPrintable(path));
+    if (bytes > 0)
+        QFile::resize(path, bytes);
     return QUrl::fromLocalFile(path);
+}
+
+QString TestDesk::base64(const QUrl &file)
+{
+    QFile content(file.toLocalFile());
+    if (!content.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(content.fileName()));
+    return QString::fromLatin1(content.readAll().toBase64());
 }
 
 QStringList TestDesk::resources(const QString &markdown)

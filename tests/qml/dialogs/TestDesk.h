@@ -24,8 +24,10 @@ public:
     Q_INVOKABLE static bool hasData(const QString &name);
     Q_INVOKABLE static void removeData(const QString &name);
 
-    /// A small image in `format`, at the address returned, whatever `name` makes believe.
-    Q_INVOKABLE QUrl image(const QString &name, const QString &format) const;
+    /// A small image in `format`, at the address returned, whatever `name` makes believe; with
+    /// `bytes` the file is filled to that size.
+    Q_INVOKABLE QUrl image(const QString &name, const QString &format, qint64 bytes = 0) const;
+    Q_INVOKABLE static QString base64(const QUrl &file);
     /// What `markdown` would have a view load.
     Q_INVOKABLE static QStringList resources(const QString &markdown);
 
