@@ -17,6 +17,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <thread>
+#include <vector>
 
 using namespace meridax;
 
@@ -24,28 +26,50 @@ namespace {
 
 constexpr char kText[] = "[camera] Auflösung 1920x1080, 30 Bilder/s, Belichtung";
 
-void logLine(benchmark::State &state)
+double seconds(std::chrono::steady_clock::time_point from, std::chrono::steady_clock::time_point to)
 {
-    int i = 0;
-    for (auto _ : state)
-        qInfo() << kText << ++i;
-    state.SetItemsProcessed(state.iterations());
+    return std::chrono::duration<double>(to - from).count();
 }
 
-void bareWrite(benchmark::State &state)
+void writeLogLine(int i)
+{
+    qInfo() << kText << i;
+}
+
+void writeBareLine(int i)
 {
     // One file for all threads, as in the log; stdio has a lock of its own.
     static std::FILE *const file =
         std::fopen(qPrintable(LogManager::logDirectory() + QStringLiteral("/bare.log")), "w");
-    int i = 0;
+    char line[200];
+    const int size =
+        std::snprintf(line, sizeof line, "2026-01-31 23:59:59.999 [INF] %s %d\n", kText, i);
+    std::fwrite(line, 1, static_cast<std::size_t>(size), file);
+    std::fflush(file);
+}
+
+/// Each thread writes the same number of lines, at the same time.
+void writeLines(benchmark::State &state, void (*writeLine)(int))
+{
+    constexpr int kLines = 20'000;
+    const auto threadCount = static_cast<int>(state.range(0));
     for (auto _ : state) {
-        char line[200];
-        const int size =
-            std::snprintf(line, sizeof line, "2026-01-31 23:59:59.999 [INF] %s %d\n", kText, ++i);
-        std::fwrite(line, 1, static_cast<std::size_t>(size), file);
-        std::fflush(file);
+        const auto start = std::chrono::steady_clock::now();
+        {
+            std::vector<std::jthread> threads;
+            for (int thread = 0; thread < threadCount; ++thread) {
+                threads.emplace_back([writeLine] {
+                    for (int i = 0; i < kLines; ++i)
+                        writeLine(i);
+                });
+            }
+        }
+        state.SetIterationTime(seconds(start, std::chrono::steady_clock::now()));
     }
-    state.SetItemsProcessed(state.iterations());
+    const auto lines = static_cast<double>(state.iterations() * threadCount * kLines);
+    state.counters["lines/s"] = benchmark::Counter(lines, benchmark::Counter::kIsRate);
+    state.counters["s/line"] =
+        benchmark::Counter(lines, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
 /// A child with or without the handler, from the signal to its end.
@@ -71,8 +95,7 @@ void crash(benchmark::State &state, bool hasHandler)
         const auto start = std::chrono::steady_clock::now();
         kill(child, SIGSEGV);
         waitpid(child, nullptr, 0);
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        state.SetIterationTime(taken.count());
+        state.SetIterationTime(seconds(start, std::chrono::steady_clock::now()));
         close(ready[0]);
         close(ready[1]);
     }
@@ -92,11 +115,15 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(withoutConsole);
     LogManager::install();
 
-    benchmark::RegisterBenchmark("fwrite + fflush", bareWrite)
-        ->Threads(1)
-        ->Threads(4)
-        ->UseRealTime();
-    benchmark::RegisterBenchmark("log line", logLine)->Threads(1)->Threads(4)->UseRealTime();
+    for (const bool isLog : {false, true}) {
+        benchmark::RegisterBenchmark(isLog ? "log line" : "fwrite + fflush", writeLines,
+                                     isLog ? writeLogLine : writeBareLine)
+            ->ArgName("threads")
+            ->Arg(1)
+            ->Arg(4)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    }
     for (const bool hasHandler : {false, true}) {
         benchmark::RegisterBenchmark(hasHandler ? "crash, reported" : "crash, bare", crash,
                                      hasHandler)
