@@ -1,7 +1,5 @@
 import QtQuick
-import QtQuick.Controls.Material
 import QtQuick.Layouts
-import Meridax
 
 /// Whether the log goes with a report, and a look at what would go.
 RowLayout {

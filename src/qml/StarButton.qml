@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Material
 import Meridax
 
 /// One star of a rating.

@@ -34,10 +34,9 @@ public:
     Q_INVOKABLE QVariantMap newest(const QString &kind) const
     {
         const QStringList names = m_server.received().filter(kind);
-        return names.isEmpty() ? QVariantMap()
-                               : QJsonDocument::fromJson(m_server.body(names.last()))
-                                     .toVariant()
-                                     .toMap();
+        return names.isEmpty()
+                   ? QVariantMap()
+                   : QJsonDocument::fromJson(m_server.body(names.last())).toVariant().toMap();
     }
 
     /// From inside a test, so that the log passes the lines on to the test framework.

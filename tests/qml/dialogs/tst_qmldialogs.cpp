@@ -53,8 +53,8 @@ public slots:
         auto *const desk = new TestDesk(engine);
         server->answer(QStringLiteral("/api/license/update-info"), 200, {});
         for (const char *kind : {"eula", "privacy"}) {
-            server->answer(QStringLiteral("/api/license/legal/%1").arg(QLatin1StringView(kind)), 200,
-                           {{"version", "1.0"}, {"contentMarkdown", "Text"}});
+            server->answer(QStringLiteral("/api/license/legal/%1").arg(QLatin1StringView(kind)),
+                           200, {{"version", "1.0"}, {"contentMarkdown", "Text"}});
         }
         TestDesk::writeData(QStringLiteral("server.json"),
                             QStringLiteral("{\"apiBaseUrl\": \"%1\"}").arg(server->address()));

@@ -44,10 +44,22 @@ TestCase {
     }
 
     function cleanup() {
+        window = null;
+    }
+
+    function closeAll() {
         testDesk.removeData("crash.txt");
         ViewModel.crashStateChanged();
+        const about = item("aboutDialog");
+        const popups = [findChild(about, "legalTextDialog"), about, item("whatsNewDialog"),
+                        findChild(part(item("bugReportDialog"), "logOption"), "logPreview"),
+                        item("bugReportDialog"), item("feedbackDialog"), item("settingsPanel"),
+                        item("crashRecoveryDialog")];
+        for (const popup of popups)
+            popup.close();
+        for (const popup of popups)
+            tryCompare(popup, "visible", false);
         ViewModel.clearBugReportState();
-        window = null;
     }
 
     readonly property var surfaces: ({
@@ -141,19 +153,12 @@ TestCase {
 
     function test_fits_data() {
         const rows = [];
-        for (const name of Object.keys(surfaces)) {
-            for (const dark of [true, false]) {
-                for (const size of [Qt.size(1600, 950), Qt.size(800, 600)])
-                    rows.push(row(name, dark, size));
-                if (name === "settings")
-                    rows.push(row(name, dark, Qt.size(1920, 1080)));
-            }
+        for (const dark of [true, false]) {
+            for (const size of [Qt.size(1920, 1080), Qt.size(1600, 950), Qt.size(800, 600)])
+                rows.push({ tag: `${dark ? "dark" : "light"}-${size.width}`,
+                            dark: dark, size: size });
         }
         return rows;
-    }
-    function row(name: string, dark: bool, size: size): var {
-        return { tag: `${name}-${dark ? "dark" : "light"}-${size.width}`,
-                 name: name, dark: dark, size: size };
     }
 
     function test_fits(data) {
@@ -163,13 +168,18 @@ TestCase {
         window = createTemporaryObject(mainComponent, testCase);
         tryCompare(window, "active", true);
         tryVerify(() => item("updateBanner").height > 40);
-        const surface = surfaces[data.name]();
-        testPictures.save(window, data.tag);
-        for (const area of [surface.contentItem ?? surface, surface.header, surface.footer]) {
-            if (area)
-                checkTexts(area);
+        // So large a window only makes a difference to what is as wide as it.
+        const names = data.size.width > 1600 ? ["settings"] : Object.keys(surfaces);
+        for (const name of names) {
+            const surface = surfaces[name]();
+            testPictures.save(window, `${name}-${data.tag}`);
+            for (const area of [surface.contentItem ?? surface, surface.header, surface.footer]) {
+                if (area)
+                    checkTexts(area);
+            }
+            verify(surface.y >= 0 && surface.y + surface.height <= window.height, name);
+            closeAll();
         }
-        verify(surface.y >= 0 && surface.y + surface.height <= window.height);
     }
 
     /// No text below `area` is cut, except those that may be of any length.
