@@ -15,7 +15,7 @@ export function withoutResources(markdown) {
 /// the cells of a table, and of the spans in one paragraph; a text beyond these limits shows as it
 /// is written.
 export function isModerate(markdown) {
-    const maxLines = 2000;
+    const maxLines = 2100; // what the server sends is cut at 2000, and a note follows
     const maxTableMarks = 4000;
     const maxSpanMarks = 300;
     const beginsParagraph = /^ {0,3}(?:[-*+] +\S|#{1,6} |$)/;
