@@ -83,9 +83,8 @@ void measureStream(CameraViewModel &viewModel, const char *name, bool dragging)
     QElapsedTimer sinceTurn;
     QTimer turns;
     turns.setTimerType(Qt::PreciseTimer);
-    turns.callOnTimeout(&viewModel, [&longest, &sinceTurn] {
-        longest = std::max(longest, sinceTurn.restart());
-    });
+    turns.callOnTimeout(
+        &viewModel, [&longest, &sinceTurn] { longest = std::max(longest, sinceTurn.restart()); });
 
     const int sentBefore = framesSent();
     const double cpuBefore = threadSeconds();

@@ -179,7 +179,8 @@ void drawCalibrationResult(cv::Mat &frame, QPointF centre, const cv::Scalar &cen
     cv::line(frame, middle - across, middle + across, centreColour, thickness, cv::LINE_AA);
     cv::line(frame, middle - down, middle + down, centreColour, thickness, cv::LINE_AA);
     for (const QPointF &point : points)
-        cv::circle(frame, nearestPixel(point.x(), point.y()), 8, pointColour, thickness, cv::LINE_AA);
+        cv::circle(frame, nearestPixel(point.x(), point.y()), 8, pointColour, thickness,
+                   cv::LINE_AA);
 }
 
 } // namespace meridax

@@ -31,8 +31,8 @@ QByteArray header(const QHttpServerRequest &request, QHttpHeaders::WellKnownHead
 void print(const QHttpServerRequest &request, int status)
 {
     QTextStream(stdout) << (request.method() == QHttpServerRequest::Method::Post ? "POST " : "GET ")
-                        << request.url().toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority) << ' '
-                        << status << ' '
+                        << request.url().toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority)
+                        << ' ' << status << ' '
                         << header(request, QHttpHeaders::WellKnownHeader::UserAgent) << Qt::endl;
 }
 
