@@ -26,7 +26,7 @@ public:
     using UpdateInfo = meridax::UpdateInfo;
     using LegalDocument = meridax::LegalDocument;
 
-    static constexpr qint64 kMaxReplyBytes = 20 * 1024 * 1024;
+    static constexpr qint64 kMaxReplyBytes = 20LL * 1024 * 1024;
 
     explicit SupportApiClient(QObject *parent = nullptr);
 
