@@ -13,6 +13,8 @@
 #include <csignal>
 #include <memory>
 
+#include <sys/stat.h>
+
 using namespace meridax;
 
 namespace {
@@ -161,6 +163,16 @@ private slots:
         chatty.connectToServer(kServerName);
         chatty.write("anything at all");
         QTRY_COMPARE(activations, 2);
+    }
+
+    void theChannelAdmitsTheSameUserOnly()
+    {
+        const mode_t before = ::umask(0);
+        const ActivationServer server([] {});
+        ::umask(before);
+        const auto permissions = QFile::permissions(QDir::tempPath() + u'/' + kServerName);
+        QVERIFY(permissions & QFile::WriteOwner);
+        QVERIFY(!(permissions & (QFile::WriteGroup | QFile::WriteOther)));
     }
 
     void aChannelTakenByAnotherServerOnlyCostsTheRaising()
