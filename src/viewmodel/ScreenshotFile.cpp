@@ -12,7 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr qint64 kMaxBytes = 5 * 1024 * 1024;
+constexpr qint64 kMaxBytes = 5LL * 1024 * 1024;
 
 QString tr(const char *text)
 {
