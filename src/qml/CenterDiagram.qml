@@ -58,7 +58,7 @@ ColumnLayout {
                                                    .arg(PlotGeometry.signed(canvas.offX))
                                                    .arg(PlotGeometry.signed(canvas.offY))
         font.pixelSize: 10
-        font.family: Theme.monoFont
+        font.family: Theme.monoFamily
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
         color: Theme.text

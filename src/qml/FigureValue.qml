@@ -7,7 +7,7 @@ import Meridax
 Label {
     Layout.fillWidth: true
     font.pixelSize: 12
-    font.family: Theme.monoFont
+    font.family: Theme.monoFamily
     elide: Text.ElideRight
     color: Theme.text
 }

@@ -139,7 +139,7 @@ Item {
             objectName: "valueLabel"
             visible: ViewModel.focusPresetShowValue && !root.renaming
             text: "f=%1".arg(root.focusValue)
-            font.family: Theme.monoFont
+            font.family: Theme.monoFamily
             font.pixelSize: 11
             color: "#B0B0B0"
             style: Text.Outline

@@ -71,7 +71,7 @@ Rectangle {
             objectName: "zoomValueLabel"
             text: Math.round(zoomControl.value)
             font {
-                family: Theme.monoFont
+                family: Theme.monoFamily
                 pixelSize: 12
             }
             color: "#FFFFFF"
