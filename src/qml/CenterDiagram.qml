@@ -59,8 +59,10 @@ ColumnLayout {
                                                    .arg(PlotGeometry.signed(canvas.offY))
         font.pixelSize: 10
         font.family: Theme.monoFamily
+        // Broken over two lines, the two components would no longer be read as a pair.
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
         horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.WordWrap
         color: Theme.text
     }
 }
