@@ -5,11 +5,11 @@
 #include <QAbstractVideoBuffer>
 #include <QImage>
 #include <QPainter>
-#include <QSemaphore>
 #include <QTest>
 #include <QVideoFrame>
 
 #include <memory>
+#include <semaphore>
 
 /// A light frame with dark round marks of `radius` px at `marks` (frame px, sub-pixel).
 inline QImage frameWithMarks(QSize size, const QList<QPointF> &marks, double radius = 24.0)
@@ -95,7 +95,7 @@ public:
 
 private:
     QObject m_context;
-    QSemaphore m_published;
-    QSemaphore m_released;
+    std::counting_semaphore<> m_published{0};
+    std::counting_semaphore<> m_released{0};
     QList<int> m_widths; // appended before m_published rises, read after it
 };
