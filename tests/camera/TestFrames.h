@@ -9,6 +9,7 @@
 #include <QVideoFrame>
 
 #include <memory>
+#include <mutex>
 #include <semaphore>
 
 /// A light frame with dark round marks of `radius` px at `marks` (frame px, sub-pixel).
@@ -80,7 +81,10 @@ public:
         QObject::connect(
             &controller, &meridax::CameraController::frameReady, &m_context,
             [this](const QImage &image) {
-                m_widths << image.width();
+                {
+                    const std::lock_guard lock(m_mutex);
+                    m_widths << image.width();
+                }
                 m_published.release();
                 m_released.acquire();
             },
@@ -91,11 +95,16 @@ public:
     void letGo() { m_released.release(); }
 
     /// The widths of the frames that were awaited, in order.
-    const QList<int> &widths() const { return m_widths; }
+    QList<int> widths() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_widths;
+    }
 
 private:
-    QObject m_context;
     std::counting_semaphore<> m_published{0};
     std::counting_semaphore<> m_released{0};
-    QList<int> m_widths; // appended before m_published rises, read after it
+    mutable std::mutex m_mutex; // guards m_widths
+    QList<int> m_widths;
+    QObject m_context; // the last, so that its connection ends before what the slot uses
 };
