@@ -5,6 +5,7 @@
 #include "items/LinkColor.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/LanguageSwitch.h"
+#include "viewmodel/QtTexts.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -43,6 +44,7 @@ QString dataFolder()
 void installLanguage(QTranslator &translator)
 {
     const QString language = loadSettings().language;
+    translateQtTexts(language);
     if (language == QLatin1StringView("de"))
         return; // the texts of the sources are German
     if (translator.load(QStringLiteral(":/i18n/%1.qm").arg(language))) {

@@ -1,5 +1,7 @@
 #include "viewmodel/LanguageSwitch.h"
 
+#include "viewmodel/QtTexts.h"
+
 #include <QCoreApplication>
 #include <QPointer>
 #include <QQmlEngine>
@@ -45,6 +47,7 @@ void switchLanguage(const QString &language, QTranslator &translator)
     const bool needsCatalogue = language != QLatin1StringView("de");
     if (needsCatalogue && translator.load(QStringLiteral(":/i18n/%1.qm").arg(language)))
         QCoreApplication::installTranslator(&translator);
+    translateQtTexts(language);
 
     if (currentEngine)
         currentEngine->retranslate();

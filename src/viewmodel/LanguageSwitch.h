@@ -19,7 +19,8 @@ QQmlEngine *qmlEngine();
 
 /// Installs the catalogue ":/i18n/<language>.qm" in `translator` in place of the one in force and
 /// has the engine translate its texts anew. "de" is the language of the sources and needs no
-/// catalogue; one that cannot be loaded leaves the German texts, without a message.
+/// catalogue; one that cannot be loaded leaves the German texts, without a message. Qt's own texts
+/// follow.
 void switchLanguage(const QString &language, QTranslator &translator);
 
 } // namespace meridax

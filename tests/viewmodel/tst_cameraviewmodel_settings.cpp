@@ -108,6 +108,29 @@ private slots:
         QCOMPARE(QCoreApplication::translate("Main", "Kamera"), "Kamera");
     }
 
+    void languageTranslatesOurTextsAndQts_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("ours");
+        QTest::addColumn<QString>("button");
+        QTest::newRow("German") << "de" << "Abbrechen" << "Abbrechen";
+        QTest::newRow("English") << "en" << "Cancel" << "Cancel";
+        QTest::newRow("French") << "fr" << "Annuler" << "Annuler";
+        QTest::newRow("Spanish") << "es" << "Cancelar" << "Cancelar";
+        QTest::newRow("Italian") << "it" << "Annulla" << "Annulla";
+        QTest::newRow("unknown") << "tlh" << "Abbrechen" << "Cancel";
+    }
+
+    void languageTranslatesOurTextsAndQts()
+    {
+        QFETCH(const QString, language);
+        m_viewModel->setLanguage(language == "fr" ? "it" : "fr");
+        m_viewModel->setLanguage(language);
+        QTEST(QCoreApplication::translate("CalibrationPane", "Abbrechen"), "ours");
+        QTEST(QCoreApplication::translate("QPlatformTheme", "Cancel"), "button");
+        m_viewModel->setLanguage("de");
+    }
+
     void theEndOfTheLogIsAtHand()
     {
         LogManager::install();
