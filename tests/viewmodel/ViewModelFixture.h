@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CachedLegalTexts.h"
+#include "server/DataFile.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/CameraViewModel.h"
 
@@ -36,12 +37,22 @@ inline bool fileExists()
     return QFile::exists(meridax::settingsFilePath());
 }
 
+/// Points the program at a server of this machine that does not answer: no test asks the world's.
+inline void configureNoServer()
+{
+    QFile file(meridax::dataFilePath(QLatin1StringView("server.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        R"({ "apiBaseUrl": "http://127.0.0.1:9", "downloadsBaseUrl": "http://127.0.0.1:9" })");
+}
+
 /// To be called once, before the tests count warnings.
 inline void prepareProcess()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Tarnwick Optics"));
     QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
     cacheLegalTexts();
+    configureNoServer();
     // Qt Multimedia warns at its first use on a machine without a sound server.
     const QMediaDevices devices;
 }
