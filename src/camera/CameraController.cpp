@@ -64,8 +64,10 @@ void CameraController::updateSettings(const AppSettings &settings)
         return;
     if (formatChanged)
         applyCameraFormat();
-    if (formatChanged || controlsChanged)
+    if (formatChanged || controlsChanged) {
         applyCameraControls();
+        continueFocusSweep();
+    }
 }
 
 } // namespace meridax

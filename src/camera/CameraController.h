@@ -146,7 +146,7 @@ private:
     void onFramesFailing();
     void startCapabilityProbe();
     void capabilityProbe(const CameraSettings &settings);
-    void deliverCapabilities(const CameraCapabilities &caps);
+    void deliverCapabilities(const QString &cameraId, const CameraCapabilities &caps);
     void joinCapabilityThread();
 
     // The one-frame pipeline (CameraController_pipeline.cpp)
@@ -174,6 +174,7 @@ private:
     void measureSharpness(const cv::Mat &frame, int greyConversion);
     const CameraSettings &sweepSettings() const;
     void onFocusTick();
+    void continueFocusSweep();
     void moveFocusToNextPosition();
     void endFocusSweep(int focusValue, FocusOutcome outcome);
     void reportFocusSweep(int focusValue, FocusOutcome outcome);

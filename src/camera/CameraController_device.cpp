@@ -70,6 +70,8 @@ void CameraController::stopCamera()
 void CameraController::onActiveChanged(bool active)
 {
     emit runningChanged(active);
+    if (!active)
+        m_watchdog.stop();
     if (!active || !m_camera)
         return;
     m_watchdog.start();
@@ -208,7 +210,8 @@ void CameraController::capabilityProbe(const CameraSettings &settings)
         for (const QString &line : capabilityLogLines(settings.cameraName, caps))
             qInfo().noquote() << line;
         QMetaObject::invokeMethod(
-            this, [this, caps] { deliverCapabilities(caps); }, Qt::QueuedConnection);
+            this, [this, id = settings.cameraId, caps] { deliverCapabilities(id, caps); },
+            Qt::QueuedConnection);
         return;
     }
     qInfo().noquote() << "[CameraCaps] queryCameraCapabilities returned false — UI fällt auf "
@@ -216,8 +219,11 @@ void CameraController::capabilityProbe(const CameraSettings &settings)
     m_capabilitiesProbeRunning = false;
 }
 
-void CameraController::deliverCapabilities(const CameraCapabilities &caps)
+void CameraController::deliverCapabilities(const QString &cameraId, const CameraCapabilities &caps)
 {
+    // A slow answer may come when another camera is chosen already: it is none of that camera's.
+    if (cameraId != m_settings.camera.cameraId)
+        return;
     emit cameraCapabilitiesDetected(caps);
     if (caps.focus.supported && caps.focus.min < caps.focus.max) {
         m_settings.camera.focusRangeMin = caps.focus.min;

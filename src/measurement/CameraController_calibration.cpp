@@ -27,8 +27,7 @@ void logPoints(const std::vector<QPointF> &points)
 {
     qDebug().noquote() << "[Calibration] Alle Mess-Punkte vor Center-Berechnung:";
     for (size_t i = 0; i < points.size(); ++i) {
-        qDebug().noquote().nospace()
-            << "   " << i << ": " << points[i].x() << ", " << points[i].y();
+        qDebug() << "   " << i << ":" << points[i].x() << "," << points[i].y();
     }
 }
 
@@ -166,9 +165,8 @@ void CameraController::measureBlob(cv::Mat &frame, ChannelOrder order, const cv:
 
     emit measureProgressChanged(0, 0);
     session.guideIndex = step.positionsDone;
-    qDebug().noquote().nospace() << "[Calibration] Mess-Punkt " << step.positionsDone << "/"
-                                 << session.run.positions() << ": " << step.point.x() << ", "
-                                 << step.point.y();
+    qDebug() << "[Calibration] Mess-Punkt" << step.positionsDone << "/" << session.run.positions()
+             << ":" << step.point.x() << "," << step.point.y();
     emit blobMeasurementCaptured(step.point, step.positionsDone - 1);
     session.inSector = false;
     emit blobInSectorChanged(false);

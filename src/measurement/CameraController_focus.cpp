@@ -93,6 +93,12 @@ void CameraController::measureSharpness(const cv::Mat &frame, int greyConversion
 void CameraController::onFocusTick()
 {
     FocusSession &session = *m_focus;
+    // The start of the timer may have followed the end of the sweep: a receiver of the start
+    // cancelled.
+    if (!session.active) {
+        session.timer.stop();
+        return;
+    }
     const std::uint64_t fresh = session.framesMeasured - session.framesAtMove;
     if (fresh < kFreshFrames && session.waitTicks < kMostWaitTicks) {
         ++session.waitTicks;
@@ -120,6 +126,17 @@ void CameraController::onFocusTick()
     }
 }
 
+void CameraController::continueFocusSweep()
+{
+    if (!m_focus->active)
+        return;
+    CameraSettings &sweep = m_focus->sweepSettings;
+    const int focusToReturnTo = sweep.focusValue;
+    sweep = m_settings.camera;
+    sweep.focusValue = focusToReturnTo;
+    moveFocusToNextPosition();
+}
+
 void CameraController::moveFocusToNextPosition()
 {
     applyFocusValue(m_focus->search.position());
@@ -133,8 +150,10 @@ void CameraController::endFocusSweep(int focusValue, FocusOutcome outcome)
     m_focus->active = false;
     applyFocusValue(focusValue);
     m_settings.camera.focusValue = focusValue;
-    qInfo().nospace() << "[FocusTap] Sweep-Ende focus=" << focusValue
-                      << " outcome=" << static_cast<int>(outcome);
+    if (outcome != FocusOutcome::Cancelled) {
+        qInfo().nospace() << "[FocusTap] Sweep-Ende focus=" << focusValue
+                          << " outcome=" << static_cast<int>(outcome);
+    }
     reportFocusSweep(focusValue, outcome);
 }
 

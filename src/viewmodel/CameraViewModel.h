@@ -600,6 +600,7 @@ private:
     void snapToNearestFormat();
     void applyResolutionChange(const QSize &oldSize, const QSize &newSize);
     void resetCameraValues();
+    void dropPendingCenter();
 
     ResolutionCalibration profileCalibration() const;
     template <typename Change>

@@ -76,6 +76,8 @@ void CameraViewModel::storeMeasureProgress(int framesDone, int framesTotal)
 
 void CameraViewModel::startCalibration()
 {
+    // No sharpness is measured during a calibration: a sweep would only move the lens.
+    setFocusTapModeActive(false);
     m_measurements.clear();
     emit measurementsChanged();
     discardPendingCenter();
@@ -129,6 +131,13 @@ void CameraViewModel::discardPendingCenter()
 {
     m_hasPendingCenter = false;
     emit pendingCenterChanged();
+}
+
+void CameraViewModel::dropPendingCenter()
+{
+    // It was measured in the pixels of another camera or resolution.
+    if (m_hasPendingCenter)
+        discardPendingCenter();
 }
 
 void CameraViewModel::lockCalibration()

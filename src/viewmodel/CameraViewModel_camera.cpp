@@ -151,6 +151,7 @@ void CameraViewModel::resetCameraValues()
     camera.saturation = 50;
     camera.contrast = 50;
     // The gain deliberately stays.
+    dropPendingCenter();
     if (m_calibrated)
         storeCalibrated(false);
     if (m_locked)

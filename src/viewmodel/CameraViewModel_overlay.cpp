@@ -20,6 +20,7 @@ void CameraViewModel::applyResolutionChange(const QSize &oldSize, const QSize &n
 {
     if (newSize.isEmpty() || newSize == oldSize)
         return;
+    dropPendingCenter();
     if (m_calibrated) {
         qDebug() << "[Calibration] verworfen (Auflösungswechsel:" << oldSize.width() << "x"
                  << oldSize.height() << "→" << newSize.width() << "x" << newSize.height() << ")";

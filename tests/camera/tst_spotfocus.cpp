@@ -148,6 +148,25 @@ private slots:
         QCOMPARE(deviceFocus(), 77);
     }
 
+    void aControlMovedMeanwhileStays()
+    {
+        CameraController controller;
+        AppSettings settings = settingsFor(640, 480);
+        controller.updateSettings(settings);
+        QVERIFY(start(controller));
+        const SignalRecorder progress(&controller, &CameraController::focusSweepProgress);
+        const SignalRecorder finished(&controller, &CameraController::focusSweepFinished);
+        controller.startFocusSweep(mark().x(), mark().y());
+        QTRY_VERIFY(progress.size() >= 2);
+        settings.camera.captureTimeMs = 444;
+        controller.updateSettings(settings);
+        QVERIFY2(deviceFocus() != 77, "the lens went back in the middle of the sweep");
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
+        QCOMPARE(finished[0][1].toInt(), 0);
+        QCOMPARE(deviceFocus(), finished[0][0].toInt());
+        QCOMPARE(V4l2Client().control(V4L2_CID_EXPOSURE_ABSOLUTE), 444);
+    }
+
     void unpluggedInTheMiddle()
     {
         CameraController controller;

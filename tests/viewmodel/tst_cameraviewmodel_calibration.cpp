@@ -29,8 +29,10 @@ private slots:
         m_viewModel->setCalibrationPositions(5);
 
         QSignalSpy active(m_viewModel.get(), &CameraViewModel::calibrationActiveChanged);
+        m_viewModel->setFocusTapModeActive(true);
         m_viewModel->startCalibration();
         QVERIFY(m_viewModel->calibrationActive());
+        QVERIFY2(!m_viewModel->focusTapModeActive(), "a tap would move the lens");
         QCOMPARE(active.size(), 1);
         QVERIFY(m_viewModel->measurements().isEmpty());
         QVERIFY(!m_viewModel->hasPendingCenter());

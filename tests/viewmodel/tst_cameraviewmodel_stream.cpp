@@ -62,7 +62,10 @@ private slots:
         viewModel->setSelectedResolutionIndex(int(viewModel->resolutionOptions().size()));
         QVERIFY(viewModel->calibrated());
 
+        emit viewModel->controller()->calibrationCompleted(QPointF(30, 40));
+        QVERIFY(viewModel->hasPendingCenter());
         viewModel->setSelectedResolutionIndex(0);
+        QVERIFY2(!viewModel->hasPendingCenter(), "it is in pixels of the old resolution");
         QCOMPARE(viewModel->selectedResolutionIndex(), 0);
         QVERIFY(!viewModel->calibrated());
         QVERIFY(!viewModel->locked());
@@ -105,6 +108,7 @@ private slots:
         viewModel->addFocusPreset("der ersten Kamera");
         emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
         viewModel->acceptPendingCenter();
+        emit viewModel->controller()->calibrationCompleted(QPointF(30, 40));
         const int second = int(viewModel->cameraNames().indexOf("Zweite"));
         viewModel->setSelectedCameraIndex(2);
         QCOMPARE(viewModel->brightness(), 30);
@@ -118,6 +122,7 @@ private slots:
         QVERIFY(viewModel->focusPresets().isEmpty());
         QCOMPARE(viewModel->activeFocusPresetIndex(), -1);
         QVERIFY(!viewModel->calibrated());
+        QVERIFY(!viewModel->hasPendingCenter());
         QVERIFY(!viewModel->locked());
         QTRY_COMPARE(loadSettings().camera.cameraName, "Zweite");
 
