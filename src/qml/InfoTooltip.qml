@@ -15,6 +15,7 @@ Item {
 
     readonly property bool _marked: hover.hovered || activeFocus
 
+    objectName: "helpSign"
     visible: text.length > 0
     implicitWidth: text.length > 0 ? iconSize : 0
     implicitHeight: implicitWidth

@@ -1,9 +1,9 @@
 #include "DemoScript.h"
 
 #include "DemoReport.h"
-#include "Pointer.h"
-#include "Scene.h"
-#include "SimulatedCamera.h"
+#include "drive/Pointer.h"
+#include "drive/Scene.h"
+#include "drive/SimulatedCamera.h"
 
 #include <QElapsedTimer>
 #include <QTest>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Helpers.h"
-#include "demo/Pointer.h"
-#include "demo/Scene.h"
+#include "drive/Pointer.h"
+#include "drive/Scene.h"
 
 /// The program's window as the steps of the test need it. Everything here waits where the program
 /// needs time, and throws std::runtime_error when that is over or something is not as it should be.

@@ -1,6 +1,6 @@
 #include "Helpers.h"
 
-#include "demo/Scene.h"
+#include "drive/Scene.h"
 
 #include <QFile>
 

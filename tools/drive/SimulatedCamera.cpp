@@ -1,4 +1,4 @@
-#include "SimulatedCamera.h"
+#include "drive/SimulatedCamera.h"
 
 #include <QProcess>
 #include <QtMath>

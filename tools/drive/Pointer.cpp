@@ -1,4 +1,4 @@
-#include "Pointer.h"
+#include "drive/Pointer.h"
 
 #include <QCoreApplication>
 #include <QQuickItem>
@@ -48,7 +48,9 @@ Pointer::Pointer()
     m_connection = xcb_connect(nullptr, &screen);
     if (xcb_connection_has_error(m_connection))
         throw std::runtime_error("no X display for the mouse");
-    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+    const xcb_screen_t &first = *xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    m_root = first.root;
+    m_corner = {first.width_in_pixels - 1, first.height_in_pixels - 1};
 }
 
 Pointer::~Pointer()
@@ -68,6 +70,11 @@ void Pointer::click(const QQuickItem &item, QPointF part)
     moveTo(item, part);
     send(XCB_BUTTON_PRESS, kLeftButton);
     send(XCB_BUTTON_RELEASE, kLeftButton);
+}
+
+void Pointer::leave()
+{
+    send(XCB_MOTION_NOTIFY, 0, m_corner);
 }
 
 void Pointer::send(unsigned char type, unsigned char detail, QPoint position)

@@ -20,9 +20,12 @@ public:
     /// angles growing clockwise on the screen), as a user does with the sector.
     void turnTowards(double angleDeg, QPointF from);
 
+    /// Runs the tool with `arguments` and returns what it prints. Throws std::runtime_error when it
+    /// fails.
+    QString run(const QStringList &arguments) const;
+
 private:
     QMap<QString, QString> truth() const;
-    QString run(const QStringList &arguments) const;
 
     QString m_tool;
 };

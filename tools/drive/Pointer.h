@@ -20,10 +20,13 @@ public:
     void moveTo(const QQuickItem &item, QPointF part = {0.5, 0.5});
     /// Moves there and presses and releases the left button.
     void click(const QQuickItem &item, QPointF part = {0.5, 0.5});
+    /// Moves out of the way, to the lower right corner of the screen.
+    void leave();
 
 private:
     void send(unsigned char type, unsigned char detail, QPoint position = {});
 
     xcb_connection_t *m_connection = nullptr;
     unsigned m_root = 0;
+    QPoint m_corner; ///< the last pixel of the screen
 };
