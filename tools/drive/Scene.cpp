@@ -91,13 +91,18 @@ QQuickItem &Scene::item(const QString &objectName) const
 
 QQuickItem &Scene::item(const QString &parentName, const QString &objectName) const
 {
-    const QObject *const named = m_window->findChild<QObject *>(parentName);
-    // Header and footer of a popup stand beside its content. What a repeater makes is no child.
-    QQuickItem &root = named && !qobject_cast<const QQuickItem *>(named)
-                           ? *named->property("contentItem").value<QQuickItem *>()->parentItem()
-                           : item(parentName);
-    return waitForItem(root, objectName,
+    return waitForItem(surface(parentName), objectName,
                        [&](const QQuickItem &i) { return i.objectName() == objectName; });
+}
+
+QQuickItem &Scene::surface(const QString &name) const
+{
+    const auto *const named = m_window->findChild<QObject *>(name);
+    // A popup is no item, and header and footer stand beside its content. What a repeater makes is
+    // no child.
+    if (!named || qobject_cast<const QQuickItem *>(named))
+        return item(name);
+    return *named->property("contentItem").value<QQuickItem *>()->parentItem();
 }
 
 QQuickItem &Scene::itemWithText(const QStringList &texts) const

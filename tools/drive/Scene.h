@@ -26,6 +26,8 @@ public:
     QQuickItem &item(const QString &objectName) const;
     /// The visible item `objectName` inside the item or popup `parentName`. Throws likewise.
     QQuickItem &item(const QString &parentName, const QString &objectName) const;
+    /// The item that shows the item or popup `name`, with header and footer. Throws likewise.
+    QQuickItem &surface(const QString &name) const;
     /// The visible item that shows exactly one of `texts`. Throws likewise.
     QQuickItem &itemWithText(const QStringList &texts) const;
     /// The item that holds everything of the window, its popups included.

@@ -1,5 +1,7 @@
 #include "PictureFile.h"
 
+#include "Palette.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
@@ -25,6 +27,5 @@ void writePicture(const QImage &picture, const QString &path)
 
 void writeSmallPicture(const QImage &picture, const QString &path)
 {
-    const QImage opaque = picture.convertToFormat(QImage::Format_RGB32);
-    write(opaque.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither), path, 100);
+    write(withPalette(picture), path, 100);
 }

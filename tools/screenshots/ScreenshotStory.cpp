@@ -74,7 +74,7 @@ void ScreenshotStory::runBeta()
 void ScreenshotStory::lastCrash()
 {
     waitOpened(u"crashRecoveryDialog"_s);
-    take(u"crash-recovery"_s);
+    take(u"crash-recovery"_s, {.parts = {u"crashRecoveryDialog"_s}});
     if (wants({u"crash-details"_s})) {
         click(u"detailsToggle"_s);
         take(u"crash-details"_s);
@@ -94,7 +94,7 @@ void ScreenshotStory::updateOffered()
 {
     waitFor(u"the update"_s, [this] { return value("updateBannerVisible").toBool(); });
     m_pointer.leave();
-    take(u"update-banner"_s);
+    take(u"update-banner"_s, {.parts = {u"updateBanner"_s, u"topBar"_s}});
     if (wants({u"release-notes"_s})) {
         click(u"whatsNewLink"_s);
         waitOpened(u"whatsNewDialog"_s);

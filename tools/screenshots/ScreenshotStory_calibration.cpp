@@ -89,7 +89,8 @@ void ScreenshotStory::fullCalibration()
 void ScreenshotStory::figures()
 {
     Scene &scene = m_studio.scene();
-    takeWhole(u"calibration-result"_s, scene.item(u"centerDialogContent"_s));
+    takeWhole(u"calibration-result"_s, scene.item(u"centerDialogContent"_s),
+              {.parts = {u"centerDialog"_s}});
     QMetaObject::invokeMethod(&scene.object(u"centerDialog"_s), "accept");
     waitFor(u"the accepted centre"_s, [this] { return value("calibrated").toBool(); });
     take(u"calibrated"_s);
@@ -125,7 +126,7 @@ void ScreenshotStory::profile()
     click(u"saveProfileButton"_s);
     m_pointer.leave();
     waitFor(u"the profile"_s, [this] { return value("profileExists").toBool(); });
-    take(u"profiles"_s);
+    take(u"profiles"_s, {.parts = {u"settingsPanel"_s}});
     close(u"settingsPanel"_s);
 }
 

@@ -10,7 +10,8 @@ void ScreenshotStory::settings()
                 u"screenshot-folder"_s}))
         return;
     openSettings();
-    takeWhole(u"settings"_s, m_studio.scene().item(u"settingsView"_s));
+    takeWhole(u"settings"_s, m_studio.scene().item(u"settingsView"_s),
+              {.parts = {u"settingsPanel"_s}});
     takeHelp(u"settings-help"_s, m_studio.scene().item(u"rememberCollapsedSections"_s));
     if (wants({u"languages"_s})) {
         click(u"language"_s);
@@ -37,7 +38,7 @@ void ScreenshotStory::information()
     click(u"aboutButton"_s);
     waitOpened(u"aboutDialog"_s);
     close(u"settingsPanel"_s);
-    take(u"about"_s, {.parts = {u"clientBlock"_s, u"serverBlock"_s, u"whatsNewButton"_s}});
+    take(u"about"_s, {.parts = {u"aboutDialog"_s}});
     for (const auto &[button, name] : {std::pair{u"eulaButton"_s, u"terms-of-use"_s},
                                        std::pair{u"privacyButton"_s, u"privacy"_s}}) {
         click(u"aboutDialog"_s, button);
@@ -61,7 +62,7 @@ void ScreenshotStory::bugReport()
     click(u"settingsPanel"_s, u"bugButton"_s);
     waitClosed(u"settingsPanel"_s);
     waitOpened(u"bugReportDialog"_s);
-    take(u"bug-report"_s);
+    take(u"bug-report"_s, {.parts = {u"bugReportDialog"_s}});
     if (wants({u"categories"_s})) {
         click(u"categoryBox"_s);
         m_pointer.leave();
@@ -132,7 +133,7 @@ void ScreenshotStory::feedback()
         m_pointer.leave();
     };
     openRated(4);
-    take(u"feedback"_s);
+    take(u"feedback"_s, {.parts = {u"feedbackDialog"_s}});
     dialog.setProperty("closeDelay", 600000);
     click(u"feedbackDialog"_s, u"sendButton"_s);
     waitFor(u"the thanks"_s, [this] { return value("bugReportSuccess").toBool(); });

@@ -88,15 +88,13 @@ void ScreenshotStory::presets()
         waitFor(u"the preset"_s,
                 [&] { return value("focusPresets").toList().size() == count + 1; });
     };
-    set("focusPresetShowValue", true);
     set("focusValue", 412);
-    add(u"Okular"_s);
+    add(u"Ring 1"_s);
     set("focusValue", 305);
-    add(u"Fangspiegel"_s);
+    add(u"Ring 2"_s);
     set("focusValue", 322);
     take(u"focus-presets"_s, {.parts = {u"focusPresetOverlay"_s}});
     takeHelp(u"focus-preset-help"_s, scene.item(u"preset0"_s, u"chipArea"_s));
-    set("focusPresetShowValue", false);
 }
 
 void ScreenshotStory::spotFocus()

@@ -24,7 +24,7 @@ Studio::Studio(const ScreenshotOptions &options)
     for (const QString &language : options.languages) {
         m_german.insert(
             language,
-            GermanTexts(QStringLiteral("%1/meridax_%2.ts").arg(options.catalogueFolder, language)));
+            GermanTexts(QStringLiteral("%1/%2.ts").arg(options.catalogueFolder, language)));
     }
     m_writers.setMaxThreadCount(1);
 }
@@ -117,7 +117,7 @@ QRect Studio::partOf(const QStringList &items) const
     const QRect whole(QPoint(), m_scene.window().size());
     QRectF part;
     for (const QString &name : items) {
-        const QQuickItem &item = m_scene.item(name);
+        const QQuickItem &item = m_scene.surface(name);
         part |= item.mapRectToScene(item.boundingRect());
     }
     if (part.isEmpty())

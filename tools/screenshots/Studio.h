@@ -15,7 +15,8 @@ struct PictureSetting
 {
     /// Done anew for each theme and language, such as what shows for a moment only.
     std::function<void()> before = {};
-    /// What the manual shows of the window: these items with a margin; everything when empty.
+    /// What the manual shows of the window: these items or popups with a margin; everything when
+    /// empty.
     QStringList parts = {};
     /// A dialog of Qt's in a window of its own is to be seen; its texts are not looked at.
     bool foreign = false;
