@@ -79,8 +79,7 @@ ApplicationWindow {
     }
 
     // `visible` is deliberately not set: it shares its state with `visibility` and would undo
-    // Window.Maximized. The saved values are constant at run time, so these bindings are evaluated
-    // once.
+    // Window.Maximized. The saved values are constant for QML, so these bindings are evaluated once.
     visibility: ViewModel.savedWindowMaximized ? Window.Maximized : Window.Windowed
     width: ViewModel.savedWindowWidth > 0 ? ViewModel.savedWindowWidth : 1600
     height: ViewModel.savedWindowHeight > 0 ? ViewModel.savedWindowHeight : 950

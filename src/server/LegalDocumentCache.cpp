@@ -40,9 +40,9 @@ bool LegalDocumentCache::load(LegalDocsRecord &record)
         return false;
     const QJsonObject json = document.object();
     record.eulaVersion = text(json, "eulaVersion"_L1, "agbVersion"_L1);
-    record.eulaMarkdown = boundedText(text(json, "eulaMarkdown"_L1, "agbMarkdown"_L1));
+    record.eulaMarkdown = text(json, "eulaMarkdown"_L1, "agbMarkdown"_L1);
     record.privacyVersion = json.value("privacyVersion"_L1).toString();
-    record.privacyMarkdown = boundedText(json.value("privacyMarkdown"_L1).toString());
+    record.privacyMarkdown = json.value("privacyMarkdown"_L1).toString();
     record.fetchedAt =
         QDateTime::fromString(json.value("fetchedAt"_L1).toString(), Qt::ISODateWithMs);
     return !record.eulaMarkdown.isEmpty() && !record.privacyMarkdown.isEmpty();

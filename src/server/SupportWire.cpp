@@ -158,7 +158,7 @@ LegalDocument legalDocumentFromJson(const QJsonObject &json)
     LegalDocument document;
     document.kind = json.value("kind"_L1).toString();
     document.version = json.value("version"_L1).toString();
-    document.contentMarkdown = boundedText(json.value("contentMarkdown"_L1).toString());
+    document.contentMarkdown = json.value("contentMarkdown"_L1).toString();
     document.changeSummary = json.value("changeSummary"_L1).toString();
     document.effectiveFrom = json.value("effectiveFrom"_L1).toString();
     document.valid = !document.contentMarkdown.isEmpty();

@@ -33,10 +33,12 @@ bool saveSettings(const AppSettings &settings)
         return false;
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
-    file.write(QJsonDocument(toJson(settings)).toJson(QJsonDocument::Indented));
-    // Closing flushes the buffer, so that a full disk shows as an error.
+    const QByteArray text = QJsonDocument(toJson(settings)).toJson(QJsonDocument::Indented);
+    // A full disk shows in the write when the text is longer than the buffer, otherwise in closing,
+    // which flushes the buffer and forgets the error of the write.
+    const bool written = file.write(text) == text.size();
     file.close();
-    return file.error() == QFileDevice::NoError;
+    return written && file.error() == QFileDevice::NoError;
 }
 
 } // namespace meridax

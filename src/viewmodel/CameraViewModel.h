@@ -234,11 +234,12 @@ class CameraViewModel : public QObject
     MERIDAX_APP_SETTING(bool, showZoomOverlay, setShowZoomOverlay)
     Q_PROPERTY(bool rememberCollapsedSections READ rememberCollapsedSections WRITE
                    setRememberCollapsedSections NOTIFY appSettingsChanged)
-    Q_PROPERTY(int savedWindowWidth READ savedWindowWidth NOTIFY appSettingsChanged)
-    Q_PROPERTY(int savedWindowHeight READ savedWindowHeight NOTIFY appSettingsChanged)
-    Q_PROPERTY(int savedWindowX READ savedWindowX NOTIFY appSettingsChanged)
-    Q_PROPERTY(int savedWindowY READ savedWindowY NOTIFY appSettingsChanged)
-    Q_PROPERTY(bool savedWindowMaximized READ savedWindowMaximized NOTIFY appSettingsChanged)
+    // Constant for QML: with a signal, each change of a setting would put the window back to them.
+    Q_PROPERTY(int savedWindowWidth READ savedWindowWidth CONSTANT)
+    Q_PROPERTY(int savedWindowHeight READ savedWindowHeight CONSTANT)
+    Q_PROPERTY(int savedWindowX READ savedWindowX CONSTANT)
+    Q_PROPERTY(int savedWindowY READ savedWindowY CONSTANT)
+    Q_PROPERTY(bool savedWindowMaximized READ savedWindowMaximized CONSTANT)
 
     // Update and server; release notes are Markdown of the server's
     Q_PROPERTY(bool updateAvailable READ updateAvailable NOTIFY updateInfoChanged)
@@ -409,9 +410,9 @@ public:
     QString lastCrashReport() const;
 
     QString eulaVersion() const { return m_legalDocs.eulaVersion; }
-    QString eulaMarkdown() const { return m_legalDocs.eulaMarkdown; }
+    QString eulaMarkdown() const;
     QString privacyVersion() const { return m_legalDocs.privacyVersion; }
-    QString privacyMarkdown() const { return m_legalDocs.privacyMarkdown; }
+    QString privacyMarkdown() const;
     bool legalDocsLoading() const { return m_legalDocsLoading; }
     bool legalDocsReady() const;
     QString legalDocsError() const { return m_legalDocsError; }
@@ -586,6 +587,7 @@ private:
     void compareWithFocusPreset();
 
     void storeCalibrated(bool calibrated);
+    void storeCalibratedAndLocked(bool both);
     void storeLocked(bool locked);
     void storeCalibrationActive(bool active);
     void storeMeasureProgress(int framesDone, int framesTotal);
@@ -628,7 +630,9 @@ private:
                          const QString &category) const;
     void sendBugReport(const ReportRequest &request, bool includeLogs);
     void resetSubmission(bool pending);
-    void storeSubmissionResult(bool success, const QString &message, const QString &errorCode);
+    void beginSubmission(Submission kind);
+    void storeSubmissionResult(Submission kind, bool success, const QString &message,
+                               const QString &errorCode);
     void onBugReport(bool success, const QString &bugId, const QString &message,
                      const QString &errorCode);
     void onFeatureRequest(bool success, const QString &requestId, const QString &message,
@@ -699,6 +703,8 @@ private:
     QString m_dismissedVersion;
 
     bool m_bugReportPending = false;
+    Submission m_awaitedReply = Submission::BugReport;
+    QList<Submission> m_abandonedReplies; // of forms that were closed before the reply came
     bool m_bugReportSuccess = false;
     QString m_bugReportError;
     QString m_bugReportMessage;

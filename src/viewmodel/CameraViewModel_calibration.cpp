@@ -164,6 +164,14 @@ void CameraViewModel::storeCalibrated(bool calibrated)
     emit calibratedChanged();
 }
 
+void CameraViewModel::storeCalibratedAndLocked(bool both)
+{
+    m_calibrated = m_settings.camera.calibrated = both;
+    m_locked = m_settings.camera.locked = both;
+    emit calibratedChanged();
+    emit lockStateChanged();
+}
+
 void CameraViewModel::storeLocked(bool locked)
 {
     m_locked = m_settings.camera.locked = locked;

@@ -54,6 +54,8 @@ void CameraViewModel::refreshCameras()
         resetCameraValues();
     emit cameraListChanged();
     emit cameraSettingsChanged();
+    // What the profile holds is told for the camera and the resolution selected now.
+    emit profileSettingsChanged();
 }
 
 void CameraViewModel::setSelectedCameraIndex(int index)

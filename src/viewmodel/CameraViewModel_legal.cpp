@@ -1,5 +1,6 @@
 // The legal texts: from the server, and from the file of an earlier run.
 
+#include "server/BoundedText.h"
 #include "viewmodel/CameraViewModel.h"
 
 #include <QDebug>
@@ -31,7 +32,18 @@ QString versionOrFirst(const QString &version)
 
 bool CameraViewModel::legalDocsReady() const
 {
-    return !eulaMarkdown().isEmpty() && !privacyMarkdown().isEmpty();
+    return !m_legalDocs.eulaMarkdown.isEmpty() && !m_legalDocs.privacyMarkdown.isEmpty();
+}
+
+// Kept as they came, and cut only for the window: the note of it is in the language of the moment.
+QString CameraViewModel::eulaMarkdown() const
+{
+    return boundedText(m_legalDocs.eulaMarkdown);
+}
+
+QString CameraViewModel::privacyMarkdown() const
+{
+    return boundedText(m_legalDocs.privacyMarkdown);
 }
 
 void CameraViewModel::loadCachedLegalDocuments()
@@ -75,8 +87,8 @@ void CameraViewModel::onLegalDocument(bool success, const QString &kind,
     if (legalDocsReady()) {
         m_legalDocsLoading = false;
         m_legalDocsError.clear();
-        LegalDocumentCache::save({versionOrFirst(eulaVersion()), eulaMarkdown(),
-                                  versionOrFirst(privacyVersion()), privacyMarkdown(),
+        LegalDocumentCache::save({versionOrFirst(eulaVersion()), m_legalDocs.eulaMarkdown,
+                                  versionOrFirst(privacyVersion()), m_legalDocs.privacyMarkdown,
                                   QDateTime::currentDateTimeUtc()});
     }
     emit legalDocsChanged();

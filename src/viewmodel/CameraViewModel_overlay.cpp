@@ -21,11 +21,12 @@ void CameraViewModel::applyResolutionChange(const QSize &oldSize, const QSize &n
     if (newSize.isEmpty() || newSize == oldSize)
         return;
     dropPendingCenter();
+    // The centre goes with the size, so that of the profile may come back with it.
+    m_lastRestoredResolutionKey.clear();
     if (m_calibrated) {
         qDebug() << "[Calibration] verworfen (Auflösungswechsel:" << oldSize.width() << "x"
                  << oldSize.height() << "→" << newSize.width() << "x" << newSize.height() << ")";
-        storeCalibrated(false);
-        storeLocked(false);
+        storeCalibratedAndLocked(false);
     }
     CameraSettings &camera = m_settings.camera;
     camera.centerX = newSize.width() * 0.5;

@@ -87,6 +87,7 @@ void CameraViewModel::restoreProfile()
     m_lastRestoredResolutionKey = key;
     emit cameraSettingsChanged();
     emit overlaySettingsChanged();
+    emit profileSettingsChanged();
 }
 
 void CameraViewModel::forgetRestoredProfile()
@@ -101,8 +102,7 @@ void CameraViewModel::fulfilPendingRestore()
     if (!m_calibrationRestorePending)
         return;
     m_calibrationRestorePending = false;
-    storeCalibrated(true);
-    storeLocked(true);
+    storeCalibratedAndLocked(true);
     m_saveTimer.start();
 }
 

@@ -40,8 +40,17 @@ void CameraViewModel::resetSubmission(bool pending)
     emit bugReportStateChanged();
 }
 
+void CameraViewModel::beginSubmission(Submission kind)
+{
+    resetSubmission(true);
+    m_awaitedReply = kind;
+}
+
+// A reply still to come belongs to a form that is closed: it must not end the next one.
 void CameraViewModel::clearBugReportState()
 {
+    if (m_bugReportPending)
+        m_abandonedReplies.append(m_awaitedReply);
     resetSubmission(false);
 }
 
@@ -67,7 +76,7 @@ void CameraViewModel::sendBugReport(const ReportRequest &request, bool includeLo
 {
     // Before the state changes, lest what the interface says of it gets into the excerpt.
     const QString logs = includeLogs ? getLogTail(kReportedLogLines) : QString();
-    resetSubmission(true);
+    beginSubmission(Submission::BugReport);
     m_supportClient.submitBugReport({request, logs});
 }
 
@@ -77,7 +86,7 @@ void CameraViewModel::submitFeatureRequest(const QString &title, const QString &
 {
     if (m_bugReportPending)
         return;
-    resetSubmission(true);
+    beginSubmission(Submission::FeatureRequest);
     m_supportClient.submitFeatureRequest(
         {report(title, description, screenshotBase64, screenshotMime, category)});
 }
@@ -90,13 +99,15 @@ void CameraViewModel::submitFeedback(int rating, const QString &comment)
         qWarning() << "[Feedback] ungültiges Rating:" << rating;
         return;
     }
-    resetSubmission(true);
+    beginSubmission(Submission::Feedback);
     m_supportClient.submitFeedback({sender(), rating, comment});
 }
 
-void CameraViewModel::storeSubmissionResult(bool success, const QString &message,
+void CameraViewModel::storeSubmissionResult(Submission kind, bool success, const QString &message,
                                             const QString &errorCode)
 {
+    if (m_abandonedReplies.removeOne(kind))
+        return;
     m_bugReportPending = false;
     m_bugReportSuccess = success;
     m_bugReportMessage = message;
@@ -106,7 +117,7 @@ void CameraViewModel::storeSubmissionResult(bool success, const QString &message
 void CameraViewModel::onBugReport(bool success, const QString &bugId, const QString &message,
                                   const QString &errorCode)
 {
-    storeSubmissionResult(success, message, errorCode);
+    storeSubmissionResult(Submission::BugReport, success, message, errorCode);
     if (success) {
         qDebug() << "[BugReport] erfolgreich, bugId=" << bugId;
         // Whichever way it was sent: the crash may have gone out by the bug dialog.
@@ -119,7 +130,7 @@ void CameraViewModel::onBugReport(bool success, const QString &bugId, const QStr
 void CameraViewModel::onFeatureRequest(bool success, const QString &requestId,
                                        const QString &message, const QString &errorCode)
 {
-    storeSubmissionResult(success, message, errorCode);
+    storeSubmissionResult(Submission::FeatureRequest, success, message, errorCode);
     if (success)
         qDebug() << "[FeatureRequest] erfolgreich, requestId=" << requestId;
     emit bugReportStateChanged();
@@ -128,7 +139,7 @@ void CameraViewModel::onFeatureRequest(bool success, const QString &requestId,
 void CameraViewModel::onFeedback(bool success, const QString &feedbackId, const QString &message,
                                  const QString &errorCode)
 {
-    storeSubmissionResult(success, message, errorCode);
+    storeSubmissionResult(Submission::Feedback, success, message, errorCode);
     if (success)
         qDebug() << "[Feedback] erfolgreich, feedbackId=" << feedbackId;
     emit bugReportStateChanged();

@@ -76,6 +76,17 @@ private slots:
         QCOMPARE(centerOf(*viewModel), QPointF(310, 250));
         QCOMPARE(viewModel->brightness(), 3);
         QTRY_VERIFY(viewModel->calibrated());
+
+        // To look at another resolution costs nothing.
+        viewModel->stopCamera();
+        choose(*viewModel, QStringLiteral("1280 x 720"));
+        choose(*viewModel, QStringLiteral("640 x 480"));
+        QVERIFY(!viewModel->calibrated());
+        const QSignalSpy profile(viewModel.get(), &CameraViewModel::profileSettingsChanged);
+        viewModel->startCamera();
+        QCOMPARE(profile.size(), 1);
+        QCOMPARE(centerOf(*viewModel), QPointF(310, 250));
+        QTRY_VERIFY(viewModel->calibrated());
     }
 
     void aCameraThatDoesNotStartStaysUncalibrated()

@@ -288,6 +288,18 @@ private slots:
         QVERIFY(!viewModel->bugReportSuccess() && !viewModel->bugReportPending());
     }
 
+    void aLateReplyLeavesTheNextForm()
+    {
+        const auto viewModel = start();
+        QSignalSpy changed(viewModel.get(), &CameraViewModel::bugReportStateChanged);
+        viewModel->submitFeatureRequest(u"T"_s, u"D"_s, {}, {}, u"GUI"_s);
+        viewModel->clearBugReportState(); // the form was closed meanwhile
+        QTRY_COMPARE(changed.size(), 3);
+        QVERIFY2(!viewModel->bugReportSuccess(), "the next form would close as sent");
+        viewModel->submitFeatureRequest(u"T"_s, u"D"_s, {}, {}, u"GUI"_s);
+        QTRY_VERIFY(viewModel->bugReportSuccess());
+    }
+
     void crashIsSentOnce()
     {
         write("crash.txt"_L1, kCrash);

@@ -120,6 +120,17 @@ TestCase {
         compare(ViewModel.savedWindowHeight, 650);
     }
 
+    function test_settingsLeaveTheWindowAsItIs() {
+        ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
+        open();
+        window.setWidth(1000); // as the window manager does it
+        ViewModel.darkMode = !ViewModel.darkMode;
+        compare(window.width, 1000);
+        window.showMaximized();
+        ViewModel.darkMode = !ViewModel.darkMode;
+        compare(window.visibility, Window.Maximized);
+    }
+
     function test_resizingJustBeforeClosing() {
         ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
         open();
