@@ -49,6 +49,9 @@ string(REPLACE "</table>" "</table></div>" body "${body}")
 # Each language has a folder of its own here.
 string(REGEX REPLACE "href=\"(de|en)\\.md([^\"]*)\"" "href=\"../\\1/index.html\\2\"" body "${body}")
 string(REPLACE "src=\"pictures/${LANGUAGE}/" "src=\"pictures/" body "${body}")
+# A click shows a picture in its own size.
+string(REGEX REPLACE "<p>(<img src=\"([^\"]*)\"[^>]*>)</p>"
+    "<p><a href=\"\\2\">\\1</a></p>" body "${body}")
 
 string(REGEX MATCH "<h1[^>]*>([^<]*)</h1>" title "${body}")
 set(title "${CMAKE_MATCH_1}")
