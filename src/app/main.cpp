@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QLockFile>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
@@ -31,6 +32,15 @@ void setApplicationIdentity()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Meridax"));
     QCoreApplication::setOrganizationName(QStringLiteral("Tarnwick Optics"));
+}
+
+/// Under this name the desktop finds the entry, and with it name and icon, that belong to a window.
+/// X11 goes by the application's name instead, which is the entry's StartupWMClass.
+void setDesktopIdentity()
+{
+    const QString id = QStringLiteral("org.tarnwick_optics.Meridax");
+    QGuiApplication::setDesktopFileName(id);
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/resources/%1.svg").arg(id)));
 }
 
 QString dataFolder()
@@ -78,6 +88,7 @@ int main(int argc, char *argv[])
 
     QGuiApplication app(argc, argv);
     setApplicationIdentity();
+    setDesktopIdentity();
     QQuickStyle::setStyle(QStringLiteral("Material"));
     QTranslator translator;
     installLanguage(translator);
