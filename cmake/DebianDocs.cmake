@@ -2,6 +2,8 @@
 set(_root ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share)
 set(_docs ${_root}/doc/meridax)
 
+# The copyright file points at the system's own copy.
+file(REMOVE ${_docs}/LICENSE)
 file(RENAME ${_docs}/CHANGELOG.md ${_docs}/changelog)
 file(COPY_FILE ${CPACK_MERIDAX_PACKAGING}/debian/changelog ${_docs}/changelog.Debian)
 execute_process(COMMAND gzip -9n ${_docs}/changelog ${_docs}/changelog.Debian

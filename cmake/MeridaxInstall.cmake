@@ -21,7 +21,8 @@ install(FILES ${_packaging}/${MERIDAX_DESKTOP_ID}.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${_drawing} DESTINATION ${_icons}/scalable/apps)
 install(FILES ${_packaging}/meridax.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES CHANGELOG.md ${_packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES CHANGELOG.md LICENSE ${_packaging}/copyright
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/meridax)
 
 # Desktops that cannot draw SVG take these; without the tool the drawing alone has to do.
 find_program(RSVG_CONVERT rsvg-convert)
