@@ -38,9 +38,8 @@ void setApplicationIdentity()
 /// X11 goes by the application's name instead, which is the entry's StartupWMClass.
 void setDesktopIdentity()
 {
-    const QString id = QStringLiteral("org.tarnwick_optics.Meridax");
-    QGuiApplication::setDesktopFileName(id);
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/resources/%1.svg").arg(id)));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnwick_optics.Meridax"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/resources/app_icon.svg")));
 }
 
 QString dataFolder()
