@@ -34,7 +34,7 @@ SettingsColumn {
 
         LanguageComboBox {
             objectName: "language"
-            Accessible.description: languageLabel.text
+            name: languageLabel.text
             Layout.fillWidth: true
             Layout.maximumWidth: 180
         }

@@ -127,7 +127,7 @@ SupportDialog {
             displayText: currentIndex < 0 ? qsTr("(bitte wählen)") : currentText
             enabled: root.editable
             implicitHeight: 36
-            Accessible.description: categoryCaption.text
+            name: categoryCaption.text
             Layout.fillWidth: true
             onActivated: index => root.selectedCategory = root._categories[index]
         }

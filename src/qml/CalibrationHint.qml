@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Material
 
 /// What the user has to do before the next position can be measured.
-Label {
+LiveLabel {
     id: root
 
     required property int blobCount

@@ -59,16 +59,24 @@ Pane {
         }
 
         FilledButton {
+            id: startButton
+
             objectName: "calibrationStartButton"
             Layout.fillWidth: true
             text: ViewModel.calibrationActive ? qsTr("Kalibrierung läuft…")
                                               : qsTr("Kalibrierung starten")
             enabled: root.controlsEnabled && !ViewModel.calibrationActive
             Material.background: "#4CAF50"
-            onClicked: ViewModel.startCalibration()
+            onClicked: {
+                // Once it is disabled it has lost the focus.
+                const byKeyboard = visualFocus;
+                ViewModel.startCalibration();
+                if (byKeyboard)
+                    measureButton.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
 
-        Label {
+        LiveLabel {
             objectName: "positionCounter"
             visible: ViewModel.calibrationActive
             text: qsTr("Position %1 von %2")
@@ -85,6 +93,8 @@ Pane {
             spacing: 8
 
             MeasureButton {
+                id: measureButton
+
                 objectName: "measureButton"
                 Layout.fillWidth: true
                 busy: ViewModel.measureInProgress
@@ -92,7 +102,12 @@ Pane {
                 progress: ViewModel.measureProgressRatio
                 framesDone: ViewModel.measureFramesDone
                 framesTotal: ViewModel.measureFramesTotal
+                Accessible.description: hint.text
                 onClicked: ViewModel.measurePosition()
+                onVisibleChanged: {
+                    if (!visible && activeFocus)
+                        startButton.forceActiveFocus(Qt.TabFocusReason);
+                }
             }
 
             FilledButton {
@@ -101,10 +116,16 @@ Pane {
                 // The plain red: the dark theme's own shade is too pale under white text.
                 Material.background: Material.color(Material.Red)
                 onClicked: ViewModel.cancelCalibration()
+                onVisibleChanged: {
+                    if (!visible && activeFocus)
+                        startButton.forceActiveFocus(focusReason);
+                }
             }
         }
 
         CalibrationHint {
+            id: hint
+
             objectName: "calibrationHint"
             Layout.fillWidth: true
             visible: ViewModel.calibrationActive && !ViewModel.measureInProgress

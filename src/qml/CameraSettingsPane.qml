@@ -1,4 +1,3 @@
-import QtQuick
 import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Meridax
@@ -32,7 +31,7 @@ Pane {
                 model: ViewModel.cameraNames
                 selectedIndex: ViewModel.selectedCameraIndex
                 enabled: !ViewModel.running
-                Accessible.description: qsTr("Kamera")
+                name: qsTr("Kamera")
                 onActivated: index => { ViewModel.selectedCameraIndex = index; }
             }
 
@@ -65,7 +64,7 @@ Pane {
             selectedIndex: ViewModel.selectedResolutionIndex
             visible: count > 0
             enabled: !ViewModel.running
-            Accessible.description: qsTr("Auflösung")
+            name: qsTr("Auflösung")
             onActivated: index => { ViewModel.selectedResolutionIndex = index; }
         }
 

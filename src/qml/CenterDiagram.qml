@@ -14,16 +14,22 @@ ColumnLayout {
     spacing: 6
 
     Label {
+        id: heading
+
         Layout.alignment: Qt.AlignHCenter
         text: qsTr("Lage des Zentrums")
         font.pixelSize: 11
         font.bold: true
         color: Theme.text
+        Accessible.ignored: true
     }
 
     CenterCanvas {
         id: canvas
         objectName: "centerCanvas"
+        Accessible.role: Accessible.Graphic
+        Accessible.name: heading.text
+        Accessible.description: offsetText.visible ? offsetText.text : ""
         Layout.fillWidth: true
         implicitHeight: Math.min(width, 230)
         center: Qt.point(ViewModel.pendingCenterX, ViewModel.pendingCenterY)
@@ -51,6 +57,8 @@ ColumnLayout {
     }
 
     Label {
+        id: offsetText
+
         objectName: "offsetText"
         Layout.fillWidth: true
         visible: canvas.haveOffset

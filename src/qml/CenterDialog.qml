@@ -46,6 +46,9 @@ Dialog {
         focus: true
         activeFocusOnTab: true
 
+        Accessible.role: Accessible.Pane
+        Accessible.name: dialog.title
+
         Keys.onUpPressed: scrollBar.decrease()
         Keys.onDownPressed: scrollBar.increase()
 
@@ -90,7 +93,7 @@ Dialog {
                 Layout.fillWidth: true
             }
 
-            Label {
+            LiveLabel {
                 objectName: "verdictLabel"
                 visible: ViewModel.fitResultValid
                 text: dialog.verdict.text
@@ -154,6 +157,13 @@ Dialog {
                     Accessible.role: Accessible.CheckBox
                     Accessible.name: text
                     Accessible.description: profileNote.text
+
+                    Keys.onReturnPressed: click()
+                    Keys.onEnterPressed: click()
+
+                    FocusFrame {
+                        visible: profileCheckBox.visualFocus
+                    }
                 }
 
                 Label {
@@ -168,6 +178,10 @@ Dialog {
                 }
             }
         }
+    }
+
+    footer: DialogButtonBox {
+        delegate: DialogButton { }
     }
 
     // The library takes its own texts from its own catalogue, which need not be there.

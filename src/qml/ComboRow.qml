@@ -22,6 +22,7 @@ RowLayout {
         font.pixelSize: 12
         elide: Text.ElideRight
         color: root.enabled ? Theme.rowLabelEnabled : Theme.rowLabel
+        Accessible.ignored: true
     }
 
     SelectionComboBox {
@@ -29,7 +30,7 @@ RowLayout {
         Layout.fillWidth: true
         model: root.model
         selectedIndex: root.selectedIndex
-        Accessible.description: root.label
+        name: root.label
         onActivated: index => root.chosen(index)
     }
 }

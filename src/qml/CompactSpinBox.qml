@@ -7,6 +7,11 @@ SpinBox {
     id: root
 
     property int shownValue: 0
+    property bool _ready: false
+
+    /// The user's choice, by hand, key or assistive technology, which writes the value itself.
+    signal chosen(newValue: int)
+
 
     implicitWidth: 120
     implicitHeight: 36
@@ -16,6 +21,12 @@ SpinBox {
     editable: true
 
     Accessible.role: Accessible.SpinBox
+
+    onValueChanged: {
+        if (_ready && value !== shownValue)
+            chosen(value);
+    }
+    Component.onCompleted: _ready = true
 
     Binding {
         target: root

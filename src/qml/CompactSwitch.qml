@@ -21,10 +21,17 @@ Switch {
     Accessible.role: Accessible.CheckBox
     Accessible.name: text
     Accessible.checked: checked
+    // By themselves they would change the mark and tell nobody.
+    Accessible.onPressAction: click()
+    Accessible.onToggleAction: click()
 
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
     onToggled: chosen(checked)
+
+    FocusFrame {
+        visible: root.visualFocus
+    }
 
     Binding {
         target: root

@@ -43,6 +43,6 @@ RowLayout {
         shownValue: root.value
         Accessible.name: root.label
         Accessible.description: root.tooltipText
-        onValueModified: root.valueModified(value)
+        onChosen: newValue => root.valueModified(newValue)
     }
 }

@@ -9,6 +9,11 @@ Rectangle {
 
     property bool expanded: false
 
+    /// Gives the keyboard focus to what unfolds the report.
+    function takeFocus() {
+        toggle.forceActiveFocus();
+    }
+
     implicitHeight: column.implicitHeight + 8
     radius: 4
     color: "transparent"
@@ -30,11 +35,14 @@ Rectangle {
             Layout.fillWidth: true
 
             HeaderButton {
+                id: toggle
+
                 objectName: "detailsToggle"
                 text: root.expanded ? "▼" : "▶"
                 implicitWidth: 32
                 implicitHeight: 32
                 Accessible.name: detailsLabel.text
+                Accessible.description: root.expanded ? qsTr("ausgeklappt") : qsTr("eingeklappt")
                 Accessible.checkable: true
                 Accessible.checked: root.expanded
                 onClicked: root.expanded = !root.expanded
@@ -47,6 +55,7 @@ Rectangle {
                 text: qsTr("Crash-Details anzeigen")
                 font.pixelSize: 12
                 color: Theme.text
+                Accessible.ignored: true
                 Layout.fillWidth: true
 
                 TapHandler {

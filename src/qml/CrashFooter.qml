@@ -27,6 +27,8 @@ Pane {
             implicitWidth: 28
             implicitHeight: 28
             Material.accent: "#FFA726"
+            Accessible.role: Accessible.Indicator
+            Accessible.name: qsTr("Wird gesendet…")
         }
 
         Item {

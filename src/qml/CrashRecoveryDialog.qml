@@ -22,7 +22,11 @@ CenteredDialog {
     borderColor: "#FFA726"
     borderWidth: 2
 
-    onAboutToShow: details.expanded = false
+    onAboutToShow: {
+        details.expanded = false;
+        // The one control that decides nothing.
+        details.takeFocus();
+    }
 
     header: DialogBand {
         inset: root.borderWidth

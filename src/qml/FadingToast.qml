@@ -18,6 +18,7 @@ Rectangle {
     function show(message: string) {
         text = message;
         animation.restart();
+        Accessible.announce(message, Accessible.Assertive);
     }
 
     implicitWidth: Math.ceil(label.implicitWidth) + 2 * horizontalPadding
@@ -37,6 +38,7 @@ Rectangle {
         horizontalAlignment: Text.AlignHCenter
         elide: Text.ElideRight
         font.pixelSize: 12
+        Accessible.ignored: true
     }
 
     SequentialAnimation {

@@ -54,7 +54,7 @@ SupportDialog {
         onChosen: rating => root.rating = rating
     }
 
-    Label {
+    LiveLabel {
         objectName: "reactionLabel"
         text: root._reactions[root.rating]
         font {

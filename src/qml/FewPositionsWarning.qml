@@ -22,6 +22,11 @@ ToolButton {
     Keys.onEnterPressed: clicked()
     onClicked: Qt.openUrlExternally(ViewModel.docsUrl)
 
+    FocusFrame {
+        anchors.margins: 0
+        visible: root.visualFocus
+    }
+
     HelpTip {
         id: tip
         visible: (root.hovered || root.visualFocus) && ViewModel.showTooltips

@@ -38,11 +38,17 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: name
+    Accessible.description: qsTr("F2: umbenennen")
     Accessible.onPressAction: applied()
 
     Keys.onSpacePressed: applied()
     Keys.onReturnPressed: applied()
     Keys.onEnterPressed: applied()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F2;
+        if (event.accepted)
+            beginRenaming();
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -126,6 +132,7 @@ Item {
             Layout.fillWidth: true
             visible: !root.renaming
             text: root.name
+            Accessible.ignored: true
             font.pixelSize: 12
             font.bold: true
             color: "white"
@@ -159,6 +166,7 @@ Item {
         }
         visible: root.renaming
         groundOpacity: 0.85
+        Accessible.name: qsTr("Name des Presets")
         onAccepted: root.endRenaming(text)
         onCancelled: root.endRenaming("")
         onActiveFocusChanged: {

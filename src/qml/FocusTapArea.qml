@@ -33,10 +33,12 @@ Item {
     }
 
     function showOutcome(outcome: int) {
-        if (outcome === 0)
+        if (outcome === 0) {
             successRing.flash();
-        else if (messages[outcome] !== undefined)
+            toast.Accessible.announce(qsTr("Schärfste Stelle gefunden."));
+        } else if (messages[outcome] !== undefined) {
             toast.show(messages[outcome]);
+        }
     }
 
     HoverHandler {
@@ -90,6 +92,7 @@ Item {
             Text {
                 anchors.centerIn: parent
                 text: "✓"
+                Accessible.ignored: true
                 color: "#37D067"
                 font {
                     pixelSize: 26

@@ -36,10 +36,11 @@ AbstractButton {
         styleColor: Qt.rgba(0, 0, 0, 0.5)
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
     }
 
     HelpTip {
-        visible: root.hovered && ViewModel.showTooltips
+        visible: (root.hovered || root.visualFocus) && ViewModel.showTooltips
         delay: 400
         text: root.toolTip
     }

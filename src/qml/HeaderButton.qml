@@ -26,7 +26,8 @@ ToolButton {
     }
 
     HelpTip {
-        visible: root.hovered && root.toolTip !== "" && ViewModel.showTooltips
+        visible: (root.hovered || root.visualFocus) && root.toolTip !== ""
+                 && ViewModel.showTooltips
         delay: 400
         text: root.toolTip
     }

@@ -21,7 +21,7 @@ Item {
     implicitHeight: implicitWidth
     activeFocusOnTab: true
 
-    Accessible.role: Accessible.HelpBalloon
+    Accessible.role: Accessible.ToolTip
     Accessible.name: text
     Accessible.ignored: text.length === 0
 
@@ -43,10 +43,15 @@ Item {
         font.pixelSize: Math.round(root.iconSize * 0.72)
         font.bold: true
         color: root._marked ? Theme.sliderLabel : Theme.textMuted
+        Accessible.ignored: true
 
         Behavior on color {
             ColorAnimation { duration: 120 }
         }
+    }
+
+    FocusFrame {
+        radius: height / 2
     }
 
     HoverHandler {

@@ -13,6 +13,11 @@ SidePanel {
         currentTab = 0;
     }
 
+    /// Gives the keyboard focus to the tab that is shown: what had it may lie on the other page.
+    function focusTab(reason: int) {
+        tabBar.currentItem.forceActiveFocus(reason);
+    }
+
     edge: Qt.LeftEdge
     expandedAtStart: ViewModel.cameraPanelExpandedAtStart
     handleName: currentTab === 0 ? cameraTab.text : calibrationTab.text

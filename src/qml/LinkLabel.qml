@@ -23,6 +23,7 @@ AbstractButton {
             underline: root.hovered
         }
         color: root.color
+        Accessible.ignored: true
     }
 
     HoverHandler {

@@ -29,6 +29,7 @@ CenteredDialog {
     footer: DialogButtonBox {
         // The style's would lie over the border.
         background: null
+        delegate: DialogButton { }
     }
     contentItem: ReadOnlyText {
         id: lines

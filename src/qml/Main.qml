@@ -311,6 +311,8 @@ ApplicationWindow {
 
     TypingEnd { }
 
+    FocusKeeper { }
+
     LeftSettingsPanel {
         id: leftPanel
 
@@ -349,7 +351,9 @@ ApplicationWindow {
                 ViewModel.profileRestoreCalibration = true;
                 ViewModel.saveCameraProfile();
             }
+            const reason = centerDialog.standardButton(Dialog.Yes).focusReason;
             leftPanel.switchToCamera();
+            leftPanel.focusTab(reason);
         }
     }
 

@@ -66,6 +66,7 @@ Rectangle {
         font.pixelSize: 13
         font.bold: true
         color: "white"
+        Accessible.ignored: true
     }
 
     MouseArea {

@@ -13,12 +13,16 @@ Row {
 
     height: 22
 
+    Accessible.role: Accessible.Row
+    Accessible.name: [stepText, xText, yText].join(", ")
+
     Label {
         width: 70
         height: parent.height
         text: root.stepText
         font.pixelSize: 12
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
         color: root.stepColor
     }
 
@@ -28,6 +32,7 @@ Row {
         text: root.xText
         font.pixelSize: 12
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
         color: root.valueColor
     }
 
@@ -37,6 +42,7 @@ Row {
         text: root.yText
         font.pixelSize: 12
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
         color: root.valueColor
     }
 }

@@ -38,6 +38,8 @@ Rectangle {
             xText: modelData.x.toFixed(1)
             yText: modelData.y.toFixed(1)
             stepColor: Theme.text
+            Accessible.name: "%1 %2: X %3, Y %4".arg(qsTr("Schritt")).arg(stepText).arg(xText)
+                                                .arg(yText)
             valueColor: Material.accentColor
         }
     }

@@ -51,7 +51,8 @@ AbstractButton {
     }
 
     HelpTip {
-        visible: root.hovered && root.toolTipEnabled && ViewModel.showTooltips
+        visible: (root.hovered || root.visualFocus) && root.toolTipEnabled
+                 && ViewModel.showTooltips
         delay: 400
         text: root.toolTip
     }

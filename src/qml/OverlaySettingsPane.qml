@@ -34,6 +34,7 @@ Pane {
 
         Accessible.role: Accessible.Button
         Accessible.name: name
+        Accessible.description: pickedColor.toString()
         Accessible.onPressAction: openDialog()
 
         Keys.onSpacePressed: openDialog()

@@ -42,6 +42,7 @@ T.TextField {
         text: root.placeholderText
         font: root.font
         color: root.placeholderTextColor
+        Accessible.ignored: true
         elide: Text.ElideRight
     }
 }

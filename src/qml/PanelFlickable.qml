@@ -52,5 +52,7 @@ Flickable {
     ScrollBar.vertical: ScrollBar {
         policy: root.scrollBarPolicy
         minimumSize: 0.1
+        // The focus scrolls, so the bar offers nothing of its own.
+        Accessible.ignored: true
     }
 }

@@ -20,6 +20,7 @@ Rectangle {
 
     Accessible.role: Accessible.Button
     Accessible.name: name
+    Accessible.description: expanded ? qsTr("ausgeklappt") : qsTr("eingeklappt")
     Accessible.checkable: true
     Accessible.checked: expanded
     Accessible.onPressAction: clicked()
@@ -35,6 +36,7 @@ Rectangle {
         font.pixelSize: 16
         font.bold: true
         color: Theme.handleText
+        Accessible.ignored: true
     }
 
     MouseArea {

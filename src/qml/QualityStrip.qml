@@ -80,6 +80,8 @@ Rectangle {
             font.pixelSize: 12
             font.bold: true
             color: Theme.text
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
 
         GridLayout {

@@ -22,9 +22,15 @@ RoundButton {
     Accessible.role: Accessible.Button
     Accessible.name: toolTip
 
-    ToolTip.visible: hovered && ViewModel.showTooltips
+    ToolTip.visible: (hovered || visualFocus) && ViewModel.showTooltips
     ToolTip.delay: 400
     ToolTip.text: toolTip
+
+    FocusFrame {
+        radius: height / 2
+        anchors.margins: 0
+        visible: root.visualFocus
+    }
 
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()

@@ -19,16 +19,22 @@ ColumnLayout {
     spacing: 6
 
     Label {
+        id: heading
+
         Layout.alignment: Qt.AlignHCenter
         text: qsTr("Rundheit der Bahn")
         font.pixelSize: 11
         font.bold: true
         color: Theme.text
+        Accessible.ignored: true
     }
 
     RoundnessCanvas {
         id: canvas
         objectName: "roundnessCanvas"
+        Accessible.role: Accessible.Graphic
+        Accessible.name: heading.text
+        Accessible.description: "±%1 px".arg(shownScale)
         Layout.fillWidth: true
         implicitHeight: Math.min(width, 230)
         points: ViewModel.measurements
@@ -47,6 +53,15 @@ ColumnLayout {
         Layout.alignment: Qt.AlignHCenter
         spacing: 4
 
+        Keys.onLeftPressed: {
+            autoButton.forceActiveFocus(Qt.OtherFocusReason);
+            root.fixedScaleChosen(false);
+        }
+        Keys.onRightPressed: {
+            fixedButton.forceActiveFocus(Qt.OtherFocusReason);
+            root.fixedScaleChosen(true);
+        }
+
         Label {
             text: qsTr("Skala")
             font.pixelSize: 9
@@ -54,6 +69,8 @@ ColumnLayout {
         }
 
         ScaleButton {
+            id: autoButton
+
             objectName: "autoScaleButton"
             text: qsTr("Auto (±%1 px)").arg(canvas.autoScale)
             active: !root.fixedScale
@@ -61,6 +78,8 @@ ColumnLayout {
         }
 
         ScaleButton {
+            id: fixedButton
+
             objectName: "fixedScaleButton"
             text: qsTr("fest ±%1 px").arg(root.fixedFullScale)
             active: root.fixedScale

@@ -20,10 +20,12 @@ Rectangle {
     color: active ? Theme.separatorLine : "transparent"
     border.width: 1
     border.color: active ? Theme.textMuted : Theme.separatorLine
-    activeFocusOnTab: true
+    // Among the choices the arrow keys lead.
+    activeFocusOnTab: active || activeFocus
 
     Accessible.role: Accessible.RadioButton
     Accessible.name: text
+    Accessible.focusable: active
     Accessible.checkable: true
     Accessible.checked: active
     Accessible.onPressAction: clicked()
@@ -40,6 +42,7 @@ Rectangle {
         font.pixelSize: 9
         font.bold: root.active
         color: root.active ? Theme.text : Theme.textMuted
+        Accessible.ignored: true
     }
 
     MouseArea {

@@ -27,10 +27,12 @@ AbstractButton {
     }
 
     function finish(saved: bool) {
-        if (saved)
+        if (saved) {
             confirmation.restart();
-        else
+            Accessible.announce(qsTr("Screenshot gespeichert"));
+        } else {
             reportFailure();
+        }
     }
 
     function grabTarget() {
@@ -55,6 +57,8 @@ AbstractButton {
     focusPolicy: Qt.StrongFocus
     opacity: confirming ? 1.0 : hovered || visualFocus ? 0.95 : 0.55
     text: qsTr("Screenshot")
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
     onClicked: ViewModel.screenshotIncludeOverlays ? grabTarget()
                                                    : finish(ViewModel.captureScreenshot() !== "")
 
@@ -86,7 +90,7 @@ AbstractButton {
     }
 
     HelpTip {
-        visible: root.hovered && ViewModel.showTooltips
+        visible: (root.hovered || root.visualFocus) && ViewModel.showTooltips
         delay: 400
         text: root.toolTip
     }

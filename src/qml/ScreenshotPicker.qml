@@ -81,16 +81,15 @@ ColumnLayout {
         }
     }
 
-    Label {
+    LiveLabel {
         objectName: "screenshotErrorLabel"
+        urgent: true
         visible: text !== ""
         text: root.error
         textFormat: Text.PlainText
         font.pixelSize: 12
         color: "#F44336"
         wrapMode: Text.Wrap
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: text
         Layout.fillWidth: true
     }
 

@@ -20,6 +20,7 @@ ToolButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: title
+    Accessible.description: expanded ? qsTr("ausgeklappt") : qsTr("eingeklappt")
     Accessible.checkable: true
     Accessible.checked: expanded
     Accessible.onPressAction: clicked()

@@ -23,7 +23,12 @@ CheckBox {
     Accessible.name: text
     Accessible.description: toolTip
     Accessible.checked: checked
+    // By themselves they would change the mark and tell nobody.
+    Accessible.onPressAction: click()
+    Accessible.onToggleAction: click()
 
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
     onToggled: chosen(checked)
 
     contentItem: Label {
@@ -32,6 +37,15 @@ CheckBox {
         font: root.font
         wrapMode: Text.WordWrap
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    FocusFrame {
+        anchors {
+            margins: 0
+            leftMargin: 4
+        }
+        visible: root.visualFocus
     }
 
     Binding {
@@ -43,7 +57,8 @@ CheckBox {
 
     HelpTip {
         objectName: "toolTip"
-        visible: root.hovered && root.toolTip !== "" && ViewModel.showTooltips
+        visible: (root.hovered || root.visualFocus) && root.toolTip !== ""
+                 && ViewModel.showTooltips
         delay: 400
         text: root.toolTip
     }

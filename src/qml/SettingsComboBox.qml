@@ -7,13 +7,24 @@ import QtQuick.Controls.Material
 ComboBox {
     id: root
 
+    /// What is chosen here, for assistive technology.
+    property string name
+
     implicitHeight: 32
     topInset: 0
     bottomInset: 0
     font.pixelSize: 12
 
     Accessible.role: Accessible.ComboBox
-    Accessible.name: displayText
+    Accessible.name: name === "" ? displayText : "%1: %2".arg(name).arg(displayText)
+    Accessible.onPressAction: popup.visible ? popup.close() : popup.open()
+
+    // The box tells its text itself.
+    Component.onCompleted: contentItem.Accessible.ignored = true
+    onHighlightedIndexChanged: {
+        if (popup.visible && highlightedIndex >= 0)
+            Accessible.announce(textAt(highlightedIndex));
+    }
 
     delegate: MenuItem {
         required property int index
@@ -25,5 +36,9 @@ ComboBox {
         highlighted: root.highlightedIndex === index
         Material.foreground: root.currentIndex === index ? root.Material.accent
                                                          : root.Material.foreground
+
+        Accessible.role: Accessible.MenuItem
+        Accessible.name: text
+        Accessible.onPressAction: click()
     }
 }

@@ -21,6 +21,7 @@ AbstractButton {
         text: root.text
         font: root.font
         color: root.hovered ? Theme.text : Theme.textMuted
+        Accessible.ignored: true
 
         Behavior on color {
             ColorAnimation {

@@ -47,6 +47,7 @@ RowLayout {
             minimumPixelSize: 10
             elide: Text.ElideRight
             color: root.enabled ? Theme.sliderLabel : Theme.textDisabled
+            Accessible.ignored: true
         }
 
         InfoTooltip {
@@ -86,6 +87,7 @@ RowLayout {
             zeroLabel: root.zeroLabel
             atMinLabel: root.atMinLabel
             accentColor: root.accentColor
+            name: root.label
             onCommitted: newValue => root.moved(newValue)
             onEndedByKey: slider.forceActiveFocus()
         }
@@ -123,11 +125,18 @@ RowLayout {
 
                 Accessible.role: Accessible.Slider
                 Accessible.name: root.label
-                Accessible.description: root.tooltipText
+                Accessible.description: [display.pillText, root.tooltipText]
+                                        .filter(text => text !== "").join(". ")
 
                 onFromChanged: _placeThumb()
                 onToChanged: _placeThumb()
                 onMoved: root.moved(value)
+                // Neither hand nor key: assistive technology writes the value itself.
+                onValueChanged: {
+                    const bounded = Math.max(from, Math.min(to, root.value));
+                    if (!pressed && value !== root.value && value !== bounded)
+                        root.moved(value);
+                }
                 Keys.onReturnPressed: display.beginEditing()
                 Keys.onEnterPressed: display.beginEditing()
 

@@ -31,6 +31,6 @@ RowLayout {
         to: root.to
         shownValue: root.value
         Accessible.name: root.label
-        onValueModified: root.valueModified(value)
+        onChosen: newValue => root.valueModified(newValue)
     }
 }

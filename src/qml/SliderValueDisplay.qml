@@ -15,11 +15,16 @@ Item {
     required property string zeroLabel
     required property string atMinLabel
     required property color accentColor
+    /// Of the value, for assistive technology.
+    required property string name
     readonly property alias editing: editor.editing
 
     readonly property bool zeroPillShown: zeroLabel !== "" && Math.abs(value) < 1e-9
     readonly property bool minPillShown: atMinLabel !== "" && !zeroPillShown
                                          && Math.abs(value - from) < 1e-9
+
+    /// What stands in the place of the number, or nothing.
+    readonly property string pillText: zeroPillShown ? zeroLabel : minPillShown ? atMinLabel : ""
 
     readonly property bool _canEdit: editable && enabled
 
@@ -43,6 +48,7 @@ Item {
         text: root.value.toFixed(root.decimals)
         font.pixelSize: 12
         color: root.enabled ? Theme.sliderValue : Theme.sliderValueDis
+        Accessible.ignored: true
     }
 
     Rectangle {
@@ -100,6 +106,7 @@ Item {
         from: root.from
         to: root.to
         accentColor: root.accentColor
+        name: root.name
         onCommitted: newValue => root.committed(newValue)
         onEndedByKey: root.endedByKey()
     }

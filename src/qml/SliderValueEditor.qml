@@ -10,6 +10,7 @@ TextField {
     required property real from
     required property real to
     required property color accentColor
+    required property string name
     /// The field is open.
     property bool editing: false
 
@@ -56,6 +57,7 @@ TextField {
     }
 
     Accessible.role: Accessible.EditableText
+    Accessible.name: name
 
     ToolTip.visible: hovered && !hintTimer.running && ViewModel.showTooltips
     ToolTip.delay: 400
@@ -79,6 +81,7 @@ TextField {
         text = text.replace(",", ".");
         cursorPosition = cursor;
         hintTimer.restart();
+        Accessible.announce(hint.text);
     }
     onActiveFocusChanged: {
         if (!activeFocus && editing)
@@ -117,6 +120,7 @@ TextField {
             text: qsTr("Komma → Punkt umgewandelt")
             font.pixelSize: 11
             color: "white"
+            Accessible.ignored: true
         }
     }
 }

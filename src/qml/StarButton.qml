@@ -9,6 +9,8 @@ RoundIconButton {
     required property bool filled
     /// It is the last one that is filled.
     required property bool chosen
+    /// The tab key stops here; among the stars the arrow keys lead.
+    required property bool tabStop
 
     implicitWidth: 44
     implicitHeight: 44
@@ -17,14 +19,10 @@ RoundIconButton {
     icon.height: 32
     icon.color: filled ? "#FFC107" : Theme.textMuted
     toolTip: name
+    focusPolicy: tabStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.role: Accessible.RadioButton
+    Accessible.focusable: tabStop
     Accessible.checkable: true
     Accessible.checked: chosen
-
-    FocusFrame {
-        radius: height / 2
-        anchors.margins: 0
-        visible: root.visualFocus
-    }
 }

@@ -13,6 +13,13 @@ FocusScope {
 
     signal chosen(rating: int)
 
+    function _lead(distance: int) {
+        const next = Math.max(1, Math.min(_names.length, rating + distance));
+        // First the focus: the star that is left ceases to be a stop of the tab key.
+        stars.itemAt(next - 1).forceActiveFocus(Qt.TabFocusReason);
+        chosen(next);
+    }
+
     implicitWidth: row.implicitWidth
     implicitHeight: row.implicitHeight
 
@@ -21,7 +28,12 @@ FocusScope {
 
         spacing: 4
 
+        Keys.onLeftPressed: root._lead(-1)
+        Keys.onRightPressed: root._lead(1)
+
         Repeater {
+            id: stars
+
             model: root._names
 
             StarButton {
@@ -32,6 +44,7 @@ FocusScope {
                 name: modelData
                 filled: index < root.rating
                 chosen: index + 1 === root.rating
+                tabStop: index === Math.max(0, root.rating - 1)
                 focus: index === 0
                 onClicked: root.chosen(index + 1)
             }

@@ -3,6 +3,8 @@ import QtQuick.Controls.Material
 
 /// Round flat button that steps a value and repeats while held.
 RoundButton {
+    id: root
+
     implicitWidth: 40
     implicitHeight: 40
     topInset: 0
@@ -18,4 +20,13 @@ RoundButton {
 
     Accessible.role: Accessible.Button
     Accessible.onPressAction: clicked()
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    FocusFrame {
+        radius: height / 2
+        anchors.margins: 2
+        visible: root.visualFocus
+    }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Meridax
 
@@ -13,28 +12,25 @@ ColumnLayout {
     visible: ViewModel.bugReportSuccess || ViewModel.bugReportError !== ""
     Layout.fillWidth: true
 
-    Label {
+    LiveLabel {
         objectName: "successLabel"
         visible: ViewModel.bugReportSuccess
         text: root.successText
         font.pixelSize: 13
         color: "#4CAF50"
         wrapMode: Text.WordWrap
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
         Layout.fillWidth: true
     }
 
-    Label {
+    LiveLabel {
         objectName: "errorLabel"
+        urgent: true
         visible: text !== ""
         text: ViewModel.bugReportError
         textFormat: Text.PlainText
         font.pixelSize: 13
         color: "#F44336"
         wrapMode: Text.Wrap
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: text
         Layout.fillWidth: true
     }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 
 /// How far a focus sweep has come: a ring that fills clockwise from the top.
 Canvas {
@@ -29,11 +28,13 @@ Canvas {
     }
 
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: label.text
+    // In tenths: a screen reader is not to be told of every step.
+    Accessible.name: "%1 %2 %".arg(label.text).arg(Math.round(shownFraction * 10) * 10)
 
-    Label {
+    LiveLabel {
         id: label
 
+        settleTime: 0
         anchors {
             top: parent.bottom
             topMargin: 6

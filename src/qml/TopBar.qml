@@ -58,6 +58,7 @@ Rectangle {
             visible: cameraLabel.visible
             text: "|"
             color: Theme.dividerMid
+            Accessible.ignored: true
         }
 
         Label {
@@ -86,7 +87,7 @@ Rectangle {
             color: ViewModel.calibrated ? "#4CAF50" : "#F44336"
         }
 
-        Label {
+        LiveLabel {
             objectName: "calibrationLabel"
             visible: ViewModel.running
             text: ViewModel.calibrated ? qsTr("Kalibriert") : qsTr("Nicht kalibriert")
@@ -108,7 +109,7 @@ Rectangle {
             color: Theme.dividerStrong
         }
 
-        Label {
+        LiveLabel {
             objectName: "connectionLabel"
             text: topBar.connectionText
             font.pixelSize: 12
@@ -147,7 +148,10 @@ Rectangle {
             highlighted: true
             // The plain colours: the dark theme's own shades are too pale under white text.
             Material.accent: Material.color(ViewModel.running ? Material.Red : Material.Green)
+            Accessible.role: Accessible.Button
             Accessible.name: text
+            Keys.onReturnPressed: click()
+            Keys.onEnterPressed: click()
             onClicked: ViewModel.running ? ViewModel.stopCamera() : ViewModel.startCamera()
 
             FocusFrame {

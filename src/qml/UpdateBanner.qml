@@ -68,7 +68,7 @@ Rectangle {
             color: root._channelColor
         }
 
-        Label {
+        LiveLabel {
             objectName: "updateLabel"
             text: qsTr("Update verfügbar: %1").arg(ViewModel.updateVersion)
             textFormat: Text.PlainText

@@ -23,6 +23,7 @@ Rectangle {
         font.pixelSize: 11
         font.bold: true
         color: "white"
+        Accessible.ignored: true
     }
 
     MouseArea {

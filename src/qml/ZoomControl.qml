@@ -56,6 +56,7 @@ Rectangle {
             stepSize: 1
             value: zoomControl.value
             Layout.fillWidth: true
+            Accessible.role: Accessible.Slider
             Accessible.name: qsTr("Zoom")
             onMoved: zoomControl.setValue(value)
         }

@@ -9,6 +9,11 @@ AbstractButton {
     implicitHeight: 24
     autoRepeat: true
 
+    Accessible.role: Accessible.Button
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
     contentItem: Label {
         text: button.text
         font.pixelSize: 16

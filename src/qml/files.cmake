@@ -53,6 +53,7 @@ set(meridax_qml_internal
     src/qml/CrashFooter.qml
     src/qml/CrashNote.qml
     src/qml/DialogBand.qml
+    src/qml/DialogButton.qml
     src/qml/DialogTitle.qml
     src/qml/FadingRing.qml
     src/qml/FadingToast.qml
@@ -63,6 +64,7 @@ set(meridax_qml_internal
     src/qml/FitTable.qml
     src/qml/FlatButton.qml
     src/qml/FocusFrame.qml
+    src/qml/FocusKeeper.qml
     src/qml/FocusPresetChip.qml
     src/qml/FocusTapArea.qml
     src/qml/FocusTapButton.qml
@@ -79,6 +81,7 @@ set(meridax_qml_internal
     src/qml/LegendEntry.qml
     src/qml/LineStyleRow.qml
     src/qml/LinkLabel.qml
+    src/qml/LiveLabel.qml
     src/qml/LiveView.qml
     src/qml/LockButton.qml
     src/qml/LogOption.qml

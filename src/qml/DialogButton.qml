@@ -1,0 +1,24 @@
+import QtQuick
+import QtQuick.Controls.Material
+
+/// A button in the button row of a dialog.
+Button {
+    id: root
+
+    flat: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    FocusFrame {
+        anchors {
+            topMargin: root.topInset - 2
+            bottomMargin: root.bottomInset - 2
+        }
+        radius: height / 2
+        visible: root.visualFocus
+    }
+}
