@@ -592,6 +592,14 @@
         <source>Crash-Details anzeigen</source>
         <translation>Show crash details</translation>
     </message>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>expanded</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>collapsed</translation>
+    </message>
 </context>
 <context>
     <name>CrashFooter</name>
@@ -606,6 +614,10 @@
     <message>
         <source>Senden</source>
         <translation>Send</translation>
+    </message>
+    <message>
+        <source>Wird gesendet…</source>
+        <translation>Sending…</translation>
     </message>
 </context>
 <context>
@@ -734,6 +746,14 @@ Double-click: rename</translation>
         <source>Preset mit aktuellem Stand aktualisieren</source>
         <translation>Update preset with the current state</translation>
     </message>
+    <message>
+        <source>Leertaste: anfahren, Eingabetaste: umbenennen</source>
+        <translation>Space: go to it, Enter: rename</translation>
+    </message>
+    <message>
+        <source>Name des Presets</source>
+        <translation>Name of the preset</translation>
+    </message>
 </context>
 <context>
     <name>FocusPresetOverlay</name>
@@ -759,6 +779,10 @@ Double-click: rename</translation>
     <message>
         <source>Fokusbereich wird noch ermittelt — bitte kurz warten.</source>
         <translation>The focus range is still being determined — please wait a moment.</translation>
+    </message>
+    <message>
+        <source>Schärfste Stelle gefunden.</source>
+        <translation>Sharpest position found.</translation>
     </message>
 </context>
 <context>
@@ -938,6 +962,17 @@ Click here to turn it off.</translation>
     <message>
         <source>Kreuz (4)</source>
         <translation>Cross (4)</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHandle</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>expanded</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>collapsed</translation>
     </message>
 </context>
 <context>
@@ -1168,6 +1203,10 @@ Click here to turn it off.</translation>
         <source>Screenshot</source>
         <translation>Screenshot</translation>
     </message>
+    <message>
+        <source>Screenshot gespeichert</source>
+        <translation>Screenshot saved</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotFolderDialog</name>
@@ -1254,6 +1293,17 @@ when you go to it. Off = only the focus value is set.</translation>
     <message>
         <source>Im Overlay-Chip wird der gespeicherte Fokuswert (f=NNN) eingeblendet.</source>
         <translation>The chip over the picture shows the stored focus value (f=NNN).</translation>
+    </message>
+</context>
+<context>
+    <name>SectionChevron</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>expanded</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>collapsed</translation>
     </message>
 </context>
 <context>

@@ -592,6 +592,14 @@
         <source>Crash-Details anzeigen</source>
         <translation>Mostrar detalles del fallo</translation>
     </message>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>desplegado</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>plegado</translation>
+    </message>
 </context>
 <context>
     <name>CrashFooter</name>
@@ -606,6 +614,10 @@
     <message>
         <source>Senden</source>
         <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Wird gesendet…</source>
+        <translation>Enviando…</translation>
     </message>
 </context>
 <context>
@@ -734,6 +746,14 @@ Doble clic: cambiar nombre</translation>
         <source>Preset mit aktuellem Stand aktualisieren</source>
         <translation>Actualizar el preajuste con el estado actual</translation>
     </message>
+    <message>
+        <source>Leertaste: anfahren, Eingabetaste: umbenennen</source>
+        <translation>Espacio: ir al preajuste, Intro: cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Name des Presets</source>
+        <translation>Nombre del preajuste</translation>
+    </message>
 </context>
 <context>
     <name>FocusPresetOverlay</name>
@@ -759,6 +779,10 @@ Doble clic: cambiar nombre</translation>
     <message>
         <source>Fokusbereich wird noch ermittelt — bitte kurz warten.</source>
         <translation>Aún se está determinando el rango de enfoque: espera un momento.</translation>
+    </message>
+    <message>
+        <source>Schärfste Stelle gefunden.</source>
+        <translation>Posición más nítida encontrada.</translation>
     </message>
 </context>
 <context>
@@ -938,6 +962,17 @@ Haz clic aquí para desactivarlo.</translation>
     <message>
         <source>Kreuz (4)</source>
         <translation>Cruz (4)</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHandle</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>desplegado</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>plegado</translation>
     </message>
 </context>
 <context>
@@ -1168,6 +1203,10 @@ Haz clic aquí para desactivarlo.</translation>
         <source>Screenshot</source>
         <translation>Captura de pantalla</translation>
     </message>
+    <message>
+        <source>Screenshot gespeichert</source>
+        <translation>Captura guardada</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotFolderDialog</name>
@@ -1254,6 +1293,17 @@ y se restauran al aplicarlo. Desactivado = solo se aplica el valor de enfoque.</
     <message>
         <source>Im Overlay-Chip wird der gespeicherte Fokuswert (f=NNN) eingeblendet.</source>
         <translation>El botón del preajuste sobre la imagen muestra el valor de enfoque guardado (f=NNN).</translation>
+    </message>
+</context>
+<context>
+    <name>SectionChevron</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>desplegado</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>plegado</translation>
     </message>
 </context>
 <context>

@@ -592,6 +592,14 @@
         <source>Crash-Details anzeigen</source>
         <translation>Afficher les détails du plantage</translation>
     </message>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>déplié</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>replié</translation>
+    </message>
 </context>
 <context>
     <name>CrashFooter</name>
@@ -606,6 +614,10 @@
     <message>
         <source>Senden</source>
         <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>Wird gesendet…</source>
+        <translation>Envoi en cours…</translation>
     </message>
 </context>
 <context>
@@ -734,6 +746,14 @@ Double-clic&#xa0;: renommer</translation>
         <source>Preset mit aktuellem Stand aktualisieren</source>
         <translation>Actualiser le préréglage avec l’état actuel</translation>
     </message>
+    <message>
+        <source>Leertaste: anfahren, Eingabetaste: umbenennen</source>
+        <translation>Espace&#xa0;: rappeler, Entrée&#xa0;: renommer</translation>
+    </message>
+    <message>
+        <source>Name des Presets</source>
+        <translation>Nom du préréglage</translation>
+    </message>
 </context>
 <context>
     <name>FocusPresetOverlay</name>
@@ -759,6 +779,10 @@ Double-clic&#xa0;: renommer</translation>
     <message>
         <source>Fokusbereich wird noch ermittelt — bitte kurz warten.</source>
         <translation>Plage de mise au point en cours de détection — veuillez patienter un instant.</translation>
+    </message>
+    <message>
+        <source>Schärfste Stelle gefunden.</source>
+        <translation>Position la plus nette trouvée.</translation>
     </message>
 </context>
 <context>
@@ -938,6 +962,17 @@ Cliquez ici pour la désactiver.</translation>
     <message>
         <source>Kreuz (4)</source>
         <translation>Croix (4)</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHandle</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>déplié</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>replié</translation>
     </message>
 </context>
 <context>
@@ -1168,6 +1203,10 @@ Cliquez ici pour la désactiver.</translation>
         <source>Screenshot</source>
         <translation>Capture d’écran</translation>
     </message>
+    <message>
+        <source>Screenshot gespeichert</source>
+        <translation>Capture d’écran enregistrée</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotFolderDialog</name>
@@ -1254,6 +1293,17 @@ et restaurés lors de son rappel. Désactivé = seule la mise au point est rappe
     <message>
         <source>Im Overlay-Chip wird der gespeicherte Fokuswert (f=NNN) eingeblendet.</source>
         <translation>La valeur de mise au point enregistrée (f=NNN) s’affiche à côté du nom du préréglage, sur l’image.</translation>
+    </message>
+</context>
+<context>
+    <name>SectionChevron</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>déplié</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>replié</translation>
     </message>
 </context>
 <context>

@@ -592,6 +592,14 @@
         <source>Crash-Details anzeigen</source>
         <translation>Mostra dettagli del crash</translation>
     </message>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>espanso</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>compresso</translation>
+    </message>
 </context>
 <context>
     <name>CrashFooter</name>
@@ -606,6 +614,10 @@
     <message>
         <source>Senden</source>
         <translation>Invia</translation>
+    </message>
+    <message>
+        <source>Wird gesendet…</source>
+        <translation>Invio in corso…</translation>
     </message>
 </context>
 <context>
@@ -734,6 +746,14 @@ Doppio clic: rinomina</translation>
         <source>Preset mit aktuellem Stand aktualisieren</source>
         <translation>Aggiorna il preset con lo stato attuale</translation>
     </message>
+    <message>
+        <source>Leertaste: anfahren, Eingabetaste: umbenennen</source>
+        <translation>Spazio: richiama, Invio: rinomina</translation>
+    </message>
+    <message>
+        <source>Name des Presets</source>
+        <translation>Nome del preset</translation>
+    </message>
 </context>
 <context>
     <name>FocusPresetOverlay</name>
@@ -759,6 +779,10 @@ Doppio clic: rinomina</translation>
     <message>
         <source>Fokusbereich wird noch ermittelt — bitte kurz warten.</source>
         <translation>Rilevamento del campo di messa a fuoco in corso — attendi un attimo.</translation>
+    </message>
+    <message>
+        <source>Schärfste Stelle gefunden.</source>
+        <translation>Posizione più nitida trovata.</translation>
     </message>
 </context>
 <context>
@@ -938,6 +962,17 @@ Fai clic qui per disattivarla.</translation>
     <message>
         <source>Kreuz (4)</source>
         <translation>Croce (4)</translation>
+    </message>
+</context>
+<context>
+    <name>PanelHandle</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>espanso</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>compresso</translation>
     </message>
 </context>
 <context>
@@ -1168,6 +1203,10 @@ Fai clic qui per disattivarla.</translation>
         <source>Screenshot</source>
         <translation>Screenshot</translation>
     </message>
+    <message>
+        <source>Screenshot gespeichert</source>
+        <translation>Screenshot salvato</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotFolderDialog</name>
@@ -1254,6 +1293,17 @@ poi ripristinati quando lo richiami. Disattivato = viene richiamato solo il valo
     <message>
         <source>Im Overlay-Chip wird der gespeicherte Fokuswert (f=NNN) eingeblendet.</source>
         <translation>Mostra il valore di fuoco salvato (f=NNN) nel pulsante del preset sull’immagine.</translation>
+    </message>
+</context>
+<context>
+    <name>SectionChevron</name>
+    <message>
+        <source>ausgeklappt</source>
+        <translation>espanso</translation>
+    </message>
+    <message>
+        <source>eingeklappt</source>
+        <translation>compresso</translation>
     </message>
 </context>
 <context>

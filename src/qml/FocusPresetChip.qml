@@ -38,17 +38,12 @@ Item {
 
     Accessible.role: Accessible.Button
     Accessible.name: name
-    Accessible.description: qsTr("F2: umbenennen")
+    Accessible.description: qsTr("Leertaste: anfahren, Eingabetaste: umbenennen")
     Accessible.onPressAction: applied()
 
     Keys.onSpacePressed: applied()
-    Keys.onReturnPressed: applied()
-    Keys.onEnterPressed: applied()
-    Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_F2;
-        if (event.accepted)
-            beginRenaming();
-    }
+    Keys.onReturnPressed: beginRenaming()
+    Keys.onEnterPressed: beginRenaming()
 
     Rectangle {
         anchors.fill: parent

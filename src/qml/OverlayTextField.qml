@@ -26,6 +26,9 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
 
+    // Taken here, lest the key go on to what the field lies in.
+    Keys.onReturnPressed: accepted()
+    Keys.onEnterPressed: accepted()
     Keys.onEscapePressed: cancelled()
 
     background: Rectangle {

@@ -157,8 +157,8 @@ TestCase {
         const enter = () => keyClick(Qt.Key_Return);
         const escape = () => keyClick(Qt.Key_Escape);
         return [
-            { tag: "return", typed: "neu", end: enter, name: "neu" },
-            { tag: "escape", typed: "neu", end: escape, name: "alt" },
+            { tag: "return", typed: "neu", end: enter, name: "neu", keyboard: true },
+            { tag: "escape", typed: "neu", end: escape, name: "alt", keyboard: true },
             { tag: "press elsewhere", typed: " neu ", end: pressElsewhere, name: "neu" },
             { tag: "nothing typed", typed: " ", end: pressElsewhere, name: "alt" },
             { tag: "other chip", typed: "neu", name: "neu",
@@ -176,6 +176,11 @@ TestCase {
         verify(!field.visible);
         compare(names(), [data.name, "anderer"]);
         compare(chipPart(0, "nameLabel").text, data.name);
+        if (data.keyboard) {
+            keyClick(Qt.Key_Return); // the focus is on the chip again
+            compare(overlay.renamingIndex, 0);
+            keyClick(Qt.Key_Escape);
+        }
     }
 
     function test_removing() {
