@@ -1193,7 +1193,7 @@ Cliquez ici pour la désactiver.</translation>
     </message>
     <message>
         <source>Screenshot: zuerst in den Einstellungen einen Ordner wählen</source>
-        <translation>Capture d’écran&#xa0;: choisissez d’abord un dossier dans les réglages</translation>
+        <translation>Capture&#xa0;: choisissez d’abord un dossier dans les réglages</translation>
     </message>
     <message>
         <source>Screenshot fehlgeschlagen — siehe Log</source>

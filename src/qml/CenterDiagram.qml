@@ -69,7 +69,7 @@ ColumnLayout {
         font.family: Theme.monoFamily
         // Broken over two lines, the two components would no longer be read as a pair.
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
+        minimumPixelSize: 7
         horizontalAlignment: Text.AlignHCenter
         color: Theme.text
     }

@@ -15,6 +15,12 @@ ApplicationWindow {
     property int _normalH: 0
     property int _normalX: 0
     property int _normalY: 0
+    // Where the window was to be at start.
+    property point _startPosition
+    // It opened maximized and was nowhere else yet.
+    property bool _neverPlaced: false
+    // On Wayland a window neither knows nor chooses where it is.
+    readonly property bool _positionKnown: !Qt.platform.pluginName.startsWith("wayland")
 
     /// A frame has arrived since the camera started.
     property bool hasFirstFrame: false
@@ -48,13 +54,26 @@ ApplicationWindow {
                                : Math.round(Screen.virtualX + (Screen.width - savedWidth) / 2);
         const targetY = placed ? safeY(ViewModel.savedWindowY)
                                : Math.round(Screen.virtualY + (Screen.height - savedHeight) / 2);
+        _startPosition = Qt.point(targetX, targetY);
         if (visibility === Window.Windowed) {
             x = targetX;
             y = targetY;
             noteNormalGeometry(x, y, width, height);
         } else {
             noteNormalGeometry(targetX, targetY, savedWidth, savedHeight);
+            _neverPlaced = true;
         }
+    }
+
+    /// Takes the start position once a window that opened maximized is restored down: the platform
+    /// knows none to restore. Not before it has its normal size, which a write would undo.
+    function placeOnRestore() {
+        if (!_neverPlaced || visibility !== Window.Windowed || width !== savedWidth
+                || height !== savedHeight)
+            return;
+        _neverPlaced = false;
+        x = _startPosition.x;
+        y = _startPosition.y;
     }
 
     function saveGeometry() {
@@ -65,6 +84,8 @@ ApplicationWindow {
             w = savedWidth;
             h = savedHeight;
         }
+        if (!_positionKnown)
+            [px, py] = [_startPosition.x, _startPosition.y];
         ViewModel.saveWindowGeometry(px, py, w, h, maximized);
     }
 
@@ -91,11 +112,20 @@ ApplicationWindow {
     Material.theme: ViewModel.darkMode ? Material.Dark : Material.Light
     Material.accent: "#4A9ECA"
 
-    onWidthChanged: normalGeometryCommit.restart()
-    onHeightChanged: normalGeometryCommit.restart()
+    onWidthChanged: {
+        normalGeometryCommit.restart();
+        placeOnRestore();
+    }
+    onHeightChanged: {
+        normalGeometryCommit.restart();
+        placeOnRestore();
+    }
     onXChanged: normalGeometryCommit.restart()
     onYChanged: normalGeometryCommit.restart()
-    onVisibilityChanged: normalGeometryCommit.restart()
+    onVisibilityChanged: {
+        normalGeometryCommit.restart();
+        placeOnRestore();
+    }
     onClosing: saveGeometry()
     Component.onCompleted: placeOnStart()
 

@@ -45,4 +45,4 @@ private:
 /// Lets the program run until `condition` holds. Throws std::runtime_error naming `what` when the
 /// time is over.
 void waitFor(const QString &what, const std::function<bool()> &condition,
-             std::chrono::milliseconds limit = std::chrono::seconds(20));
+             std::chrono::milliseconds limit = std::chrono::seconds(60));

@@ -1,11 +1,25 @@
 #include "ScreenshotStory.h"
 
-#include <QTest>
-
 #include <cstdio>
 #include <exception>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// How many popups are to be seen below `item`.
+int popups(const QQuickItem &item)
+{
+    if (!item.isVisible())
+        return 0;
+    int count = item.inherits("QQuickPopupItem") ? 1 : 0;
+    const QList<QQuickItem *> children = item.childItems();
+    for (const QQuickItem *child : children)
+        count += popups(*child);
+    return count;
+}
+
+} // namespace
 
 ScreenshotStory::ScreenshotStory(const ScreenshotOptions &options)
     : m_studio(options)
@@ -163,11 +177,13 @@ void ScreenshotStory::takeWhole(const QString &name, QQuickItem &flickable,
 
 void ScreenshotStory::click(const QString &objectName)
 {
+    m_studio.scene().waitUntilStill();
     m_pointer.click(m_studio.scene().item(objectName));
 }
 
 void ScreenshotStory::click(const QString &parentName, const QString &objectName)
 {
+    m_studio.scene().waitUntilStill();
     m_pointer.click(m_studio.scene().item(parentName, objectName));
 }
 
@@ -175,8 +191,9 @@ void ScreenshotStory::takeHelp(const QString &name, const QQuickItem &item)
 {
     if (!wants({name}))
         return;
+    const int before = popups(m_studio.scene().top());
     m_pointer.moveTo(item);
-    QTest::qWait(600); // the help waits for a pointer that stays
+    waitFor(u"the help"_s, [&] { return popups(m_studio.scene().top()) > before; });
     take(name);
     m_pointer.leave();
 }

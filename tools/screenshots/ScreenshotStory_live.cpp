@@ -2,8 +2,6 @@
 
 #include "ScreenshotStory.h"
 
-#include <QTest>
-
 using namespace Qt::StringLiterals;
 
 namespace {

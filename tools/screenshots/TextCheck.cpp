@@ -180,7 +180,8 @@ QStringList misfits(const QQuickItem &top)
     for (qsizetype i = 0; i < all.size(); ++i) {
         for (qsizetype k = i + 1; k < all.size(); ++k) {
             const QRectF shared = all[i].covered & all[k].covered;
-            const bool twice = all[i].covered == all[k].covered; // the ground of an effect
+            // An effect shows what it works on a second time.
+            const bool twice = quoted(*all[i].text) == quoted(*all[k].text);
             if (!twice && all[i].surface == all[k].surface && shared.width() > kTolerance &&
                 shared.height() > kTolerance) {
                 found << QStringLiteral("over one another: %1 and %2")
