@@ -1,11 +1,12 @@
 # meridax_add_test(<name> SOURCES ... [LIBRARIES ...] [LABELS ...] [ENVIRONMENT VAR=value ...]
-#                  [TIMEOUT seconds] [CAMERA] [DISPLAY])
+#                  [TIMEOUT seconds] [CAMERA] [DISPLAY] [ISOLATION option...])
 #
 # One Qt Test executable and one ctest entry of that name. Every run gets its own data, config and
 # cache folders, so that tests neither meet each other nor the user's files.
 #
 # CAMERA runs the test with the simulated camera attached; DISPLAY on a virtual X display, where
-# the scene graph draws with OpenGL, instead of the offscreen platform.
+# the scene graph draws with OpenGL, instead of the offscreen platform. ISOLATION are further options
+# of tests/run-isolated.
 # A sanitizer's run-time library has to come before the preloaded camera.
 set(MERIDAX_SANITIZER_PRELOAD "")
 if(MERIDAX_SANITIZE MATCHES "address|thread")
@@ -19,7 +20,7 @@ endif()
 
 function(meridax_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "CAMERA;DISPLAY" "TIMEOUT"
-        "SOURCES;LIBRARIES;LABELS;ENVIRONMENT")
+        "SOURCES;LIBRARIES;LABELS;ENVIRONMENT;ISOLATION")
     find_package(Qt6 6.8 REQUIRED COMPONENTS Test QUIET)
     qt_add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
@@ -37,6 +38,7 @@ function(meridax_add_test name)
     if(arg_DISPLAY)
         list(APPEND command --display)
     endif()
+    list(APPEND command ${arg_ISOLATION})
     add_test(NAME ${name} COMMAND ${command} -- $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
