@@ -113,7 +113,7 @@ Pane {
             FilledButton {
                 objectName: "cancelCalibrationButton"
                 text: qsTr("Abbrechen")
-                // The plain red: the dark theme's own shade is too pale under white text.
+                // The plain red in both themes, as that of the stop button.
                 Material.background: Material.color(Material.Red)
                 onClicked: ViewModel.cancelCalibration()
                 onVisibleChanged: {

@@ -66,6 +66,7 @@ Dialog {
             policy: flickable.contentHeight > flickable.height ? ScrollBar.AlwaysOn
                                                                : ScrollBar.AlwaysOff
             background: Item {}
+            Accessible.ignored: true
             // Also tells whether the arrow keys scroll.
             contentItem: Rectangle {
                 implicitWidth: 6

@@ -45,7 +45,7 @@ CenteredDialog {
                     pixelSize: 22
                     bold: true
                 }
-                color: "white"
+                color: "#3a2410"
                 Accessible.ignored: true
             }
         }

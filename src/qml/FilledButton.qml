@@ -1,7 +1,9 @@
 import QtQuick
 import QtQuick.Controls.Material
+import "contrast.mjs" as Contrast
 
-/// A button in a colour of its own, `Material.background`, in the compact shape of the panels.
+/// A button in a colour of its own, `Material.background`, in the compact shape of the panels. Its
+/// text is black or white, whichever reads better there.
 Button {
     id: root
 
@@ -9,7 +11,7 @@ Button {
     topInset: 0
     bottomInset: 0
     verticalPadding: 4
-    Material.foreground: "white"
+    Material.foreground: Contrast.textOn(Material.background)
     Material.roundedScale: Material.ExtraSmallScale
 
     Accessible.role: Accessible.Button

@@ -1,7 +1,7 @@
 import QtQuick
-import QtQuick.Controls.Material
+import Meridax
 
-/// Frame around a composed control that has the keyboard focus. It fills its parent.
+/// Frame around a control that has the keyboard focus. It fills its parent.
 Rectangle {
     anchors.fill: parent
     anchors.margins: -2
@@ -9,5 +9,5 @@ Rectangle {
     visible: parent?.activeFocus ?? false
     color: "transparent"
     border.width: 2
-    border.color: Material.accentColor
+    border.color: Theme.focusFrame
 }

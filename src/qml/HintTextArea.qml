@@ -14,6 +14,12 @@ ScrollView {
     contentWidth: availableWidth
     ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
 
+    // The keys scroll; the bars offer nothing of their own.
+    Component.onCompleted: {
+        ScrollBar.vertical.Accessible.ignored = true;
+        ScrollBar.horizontal.Accessible.ignored = true;
+    }
+
     TextArea {
         id: area
 

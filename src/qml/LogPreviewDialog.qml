@@ -23,7 +23,7 @@ CenteredDialog {
     header: DialogBand {
         DialogTitle {
             title: root.title
-            titleColor: "#4A9ECA"
+            titleColor: Theme.text
         }
     }
     footer: DialogButtonBox {

@@ -18,7 +18,7 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     font.pixelSize: 12
     color: "white"
-    placeholderTextColor: "#B0B0B0"
+    placeholderTextColor: "#C8C8C8"
     selectByMouse: true
     selectionColor: "#4A9ECA"
     selectedTextColor: "white"

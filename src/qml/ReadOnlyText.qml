@@ -27,6 +27,12 @@ ScrollView {
     contentWidth: wrapMode === TextEdit.NoWrap ? -1 : availableWidth
     font.pixelSize: 12
 
+    // The keys scroll; the bars offer nothing of their own.
+    Component.onCompleted: {
+        ScrollBar.vertical.Accessible.ignored = true;
+        ScrollBar.horizontal.Accessible.ignored = true;
+    }
+
     TextArea {
         id: area
 

@@ -68,7 +68,7 @@ ColumnLayout {
             text: root.fileName
             textFormat: Text.PlainText
             font.pixelSize: 12
-            color: "#4CAF50"
+            color: Theme.textGood
             elide: Text.ElideMiddle
             Layout.fillWidth: true
         }

@@ -37,6 +37,6 @@ ToolButton {
         radius: width / 2
         color: root.hovered || root.down ? root.Material.rippleColor : "transparent"
         border.width: root.visualFocus ? 2 : 0
-        border.color: root.Material.accentColor
+        border.color: Theme.focusFrame
     }
 }

@@ -9,6 +9,7 @@ Rectangle {
 
     required property real contentMargin
     required property real contentWidth
+    readonly property alias title: titleLabel.text
 
     signal aboutRequested()
     signal closeRequested()
@@ -26,6 +27,8 @@ Rectangle {
         spacing: 4
 
         Label {
+            id: titleLabel
+
             text: qsTr("Einstellungen")
             font {
                 pixelSize: 16

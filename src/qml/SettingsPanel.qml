@@ -32,6 +32,13 @@ Drawer {
         color: Qt.rgba(0, 0, 0, 0.25)
     }
 
+    // The drawer has no title, and only the item that Qt makes for it can carry a name.
+    Binding {
+        target: content.parent
+        property: "Accessible.name"
+        value: header.title
+    }
+
     contentItem: Item {
         id: content
 

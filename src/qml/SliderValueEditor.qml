@@ -50,7 +50,8 @@ TextField {
     rightPadding: 4
     horizontalAlignment: TextInput.AlignHCenter
     font.pixelSize: 12
-    color: "white"
+    // The ground is a dark veil over the panel, which in the light theme comes out mid-grey.
+    color: Theme.dark ? "white" : "black"
     selectByMouse: true
     validator: RegularExpressionValidator {
         regularExpression: /^-?\d*[.,]?\d*$/
@@ -119,7 +120,7 @@ TextField {
             anchors.centerIn: parent
             text: qsTr("Komma → Punkt umgewandelt")
             font.pixelSize: 11
-            color: "white"
+            color: "black"
             Accessible.ignored: true
         }
     }

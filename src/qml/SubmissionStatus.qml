@@ -17,7 +17,7 @@ ColumnLayout {
         visible: ViewModel.bugReportSuccess
         text: root.successText
         font.pixelSize: 13
-        color: "#4CAF50"
+        color: Theme.textGood
         wrapMode: Text.WordWrap
         Layout.fillWidth: true
     }

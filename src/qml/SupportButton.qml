@@ -29,6 +29,7 @@ Item {
         text: root.text
         enabled: root.available
         Material.background: root.color
+        Material.foreground: "white"
         Accessible.description: root.available ? "" : root.pausedHint
         onClicked: root.clicked()
     }

@@ -25,6 +25,11 @@ QtObject {
     readonly property color textDisabled: dark ? "#555555" : "#888888"
     readonly property color textTableHeader: dark ? "#777777" : "#555555"
 
+    // Of what has succeeded, on the ground of a dialog.
+    readonly property color textGood: dark ? "#4CAF50" : "#2E7D32"
+    // Round what has the keyboard focus; the accent blue would not stand out from every ground.
+    readonly property color focusFrame: dark ? "#6BB5DD" : "#1F6F9A"
+
     readonly property color divider: dark ? "#2E2E2E" : "#D0D0D0"
     readonly property color dividerMid: dark ? "#3a3a3a" : "#CCCCCC"
     readonly property color dividerStrong: dark ? "#444444" : "#BBBBBB"

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Meridax
+import "contrast.mjs" as Contrast
 
 /// The bar at the top of the window: maker, camera, state of the connection, start and stop.
 Rectangle {
@@ -145,9 +146,9 @@ Rectangle {
 
             objectName: "startStopButton"
             text: ViewModel.running ? qsTr("Stop") : qsTr("Start")
-            highlighted: true
-            // The plain colours: the dark theme's own shades are too pale under white text.
-            Material.accent: Material.color(ViewModel.running ? Material.Red : Material.Green)
+            // The plain colours in both themes: the dark theme's own shades are pale.
+            Material.background: Material.color(ViewModel.running ? Material.Red : Material.Green)
+            Material.foreground: Contrast.textOn(Material.background)
             Accessible.role: Accessible.Button
             Accessible.name: text
             Keys.onReturnPressed: click()

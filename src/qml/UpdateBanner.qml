@@ -116,6 +116,7 @@ Rectangle {
             implicitHeight: 32
             font.pixelSize: 12
             Material.background: root._channelColor
+            Material.foreground: "white"
             onClicked: ViewModel.openUpdateDownload()
         }
 

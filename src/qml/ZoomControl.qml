@@ -76,6 +76,9 @@ Rectangle {
                 pixelSize: 12
             }
             color: "#FFFFFF"
+            // The ground lets the picture through, which may be bright.
+            style: Text.Outline
+            styleColor: Qt.rgba(0, 0, 0, 0.5)
             horizontalAlignment: Text.AlignRight
             Layout.preferredWidth: 28
         }

@@ -18,6 +18,9 @@ AbstractButton {
         text: button.text
         font.pixelSize: 16
         color: "#FFFFFF"
+        // The ground lets the picture through, which may be bright.
+        style: Text.Outline
+        styleColor: Qt.rgba(0, 0, 0, 0.5)
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true

@@ -139,6 +139,7 @@ set(meridax_qml_internal
     src/qml/WindowBackground.qml
     src/qml/ZoomControl.qml
     src/qml/ZoomStepButton.qml
+    src/qml/contrast.mjs
     src/qml/folderUrl.mjs
     src/qml/markdownText.mjs
     src/qml/overlayGeometry.mjs

@@ -30,7 +30,7 @@ def wait_for(what, condition, limit=20.0):
             return value
         if time.monotonic() > deadline:
             raise AssertionError(f"waited {limit:g} s for {what}")
-        time.sleep(0.02)
+        time.sleep(0.05)
 
 
 def fits(text, wanted):

@@ -4,6 +4,7 @@ verdict, by names and roles alone. Prints what it did; the first failure ends it
 
 use_by_name.py BUILD-FOLDER, started by run-accessibility."""
 
+import json
 import math
 import os
 import subprocess
@@ -14,7 +15,8 @@ import time
 from screen_reader import CONTROLS, EMPTY, ESCAPE, SPACE, ScreenReader, wait_for
 
 POSITIONS = 6
-RESOLUTION = "1280 x 720"
+RESOLUTION = "640 x 480"
+SETTINGS = "Einstellungen"
 START = time.monotonic()
 
 
@@ -69,17 +71,34 @@ def check(reader, surface, where):
     say(f"checked     {where}: {controls} controls named, {len(stops)} stops of the tab key")
 
 
-def visit(reader, opener, name, back=None):
-    """Opens by keyboard what `opener` opens, checks it, closes it; the focus comes back."""
+def open_by_key(reader, opener, name):
+    """Presses the button `opener` by the space bar; returns the dialog that opens."""
     button = reader.find("button", opener)
     button.take_focus()
     wait_for(f"the focus on {button}", lambda: reader.focus == button)
     reader.press_key(SPACE)
-    dialog = reader.find("dialog", name)
-    check(reader, dialog, name)
+    return reader.find("dialog", name)
+
+
+def close_by_key(reader, name, back):
+    """Closes the dialog `name` by the escape key; the focus goes back to the button `back`."""
     reader.press_key(ESCAPE)
     wait_for(f"the end of “{name}”", lambda: reader.look_for("dialog", name) is None)
-    wait_for("the focus to come back", lambda: reader.focus.name == (back or opener))
+    wait_for(f"the focus to come back to “{back}”", lambda: reader.focus.name == back)
+
+
+def visit_dialogs(reader):
+    """The settings, and every dialog that opens from there."""
+    check(reader, open_by_key(reader, SETTINGS, SETTINGS), "the settings")
+    about = "Über Meridax — Build-Info anzeigen"
+    check(reader, open_by_key(reader, about, "Meridax"), "build information")
+    close_by_key(reader, "Meridax", about)
+    for opener, name in (("Bug", "Bug melden"), ("Feature", "Feature vorschlagen"),
+                         ("Feedback", "Feedback senden")):
+        if reader.look_for("dialog", SETTINGS) is None:
+            open_by_key(reader, SETTINGS, SETTINGS)
+        check(reader, open_by_key(reader, opener, name), f"“{name}”")
+        close_by_key(reader, name, SETTINGS)
 
 
 def change_values(reader):
@@ -114,6 +133,7 @@ def use(reader, camera):
     reader.wait_for_program("Meridax")
     say(f"program     {reader.window}")
     check(reader, reader.window, "the window")
+    visit_dialogs(reader)
     change_values(reader)
 
     verdict = calibrate(reader, camera)
@@ -129,6 +149,11 @@ def use(reader, camera):
 def main(build):
     simcam = os.path.join(build, "tools/simcam/simcam")
     program = os.path.join(build, "src/app/meridax")
+    settings = os.path.join(os.environ["XDG_DATA_HOME"], "Tarnwick Optics/Meridax")
+    os.makedirs(settings)
+    with open(os.path.join(settings, "appsettings.json"), "w", encoding="utf-8") as file:
+        # A small window is drawn faster, where no graphics card helps.
+        json.dump({"windowWidth": 900, "windowHeight": 680}, file)
     with tempfile.TemporaryDirectory() as work:
         reader = ScreenReader()
         processes = [subprocess.Popen(["openbox", "--sm-disable"]),
