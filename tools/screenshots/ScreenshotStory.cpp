@@ -49,8 +49,8 @@ void ScreenshotStory::runMain()
 {
     lastCrash();
     updateOffered();
+    firstStart();
     withoutCamera();
-    plugCamera();
     settings();
     information();
     bugReport();
@@ -119,22 +119,16 @@ void ScreenshotStory::updateOffered()
     m_pointer.leave();
 }
 
-void ScreenshotStory::withoutCamera()
-{
-    if (!wants({u"no-camera"_s}))
-        return;
-    click(u"startStopButton"_s);
-    m_pointer.leave();
-    waitFor(u"the word about the camera"_s,
-            [this] { return !value("status").toString().isEmpty(); });
-    take(u"no-camera"_s);
-}
-
 void ScreenshotStory::plugCamera()
 {
     // Without noise the files are small, and the same in each run but for the time.
     m_camera.run({u"plug"_s, u"--noise"_s, u"0"_s, u"--form3"_s, u"1.5"_s});
     waitFor(u"the camera"_s, [this] { return !value("cameraNames").toStringList().isEmpty(); });
+}
+
+void ScreenshotStory::firstStart()
+{
+    plugCamera();
     const QStringList offered = value("resolutionOptions").toStringList();
     const QStringList wanted = offered.filter(u"1280 x 720"_s);
     click(u"resolutionSelector"_s);
@@ -146,6 +140,20 @@ void ScreenshotStory::plugCamera()
     });
     m_pointer.leave();
     take(u"first-start"_s);
+}
+
+void ScreenshotStory::withoutCamera()
+{
+    if (!wants({u"no-camera"_s}))
+        return;
+    m_camera.run({u"unplug"_s});
+    waitFor(u"the empty list"_s, [this] { return value("cameraNames").toStringList().isEmpty(); });
+    click(u"startStopButton"_s);
+    m_pointer.leave();
+    waitFor(u"the word about the camera"_s,
+            [this] { return !value("status").toString().isEmpty(); });
+    take(u"no-camera"_s);
+    plugCamera();
 }
 
 // ------------------------------------------------------------------------------------- the hands

@@ -21,8 +21,9 @@ private:
     void runBeta();
     void lastCrash();
     void updateOffered();
-    void withoutCamera();
     void plugCamera();
+    void firstStart();
+    void withoutCamera();
 
     // ScreenshotStory_dialogs.cpp
     void settings();
