@@ -102,7 +102,7 @@ Pane {
                 progress: ViewModel.measureProgressRatio
                 framesDone: ViewModel.measureFramesDone
                 framesTotal: ViewModel.measureFramesTotal
-                Accessible.description: hint.text
+                Accessible.description: hint.told
                 onClicked: ViewModel.measurePosition()
                 onVisibleChanged: {
                     if (!visible && activeFocus)

@@ -159,8 +159,8 @@ Dialog {
                     Accessible.name: text
                     Accessible.description: profileNote.text
 
-                    Keys.onReturnPressed: click()
-                    Keys.onEnterPressed: click()
+                    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+                    Keys.onEnterPressed: event => event.isAutoRepeat || click()
 
                     FocusFrame {
                         visible: profileCheckBox.visualFocus

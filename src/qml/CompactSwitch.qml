@@ -25,8 +25,8 @@ Switch {
     Accessible.onPressAction: click()
     Accessible.onToggleAction: click()
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
     onToggled: chosen(checked)
 
     FocusFrame {

@@ -16,10 +16,10 @@ ToolButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: tip.text
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: click()
 
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
     onClicked: Qt.openUrlExternally(ViewModel.docsUrl)
 
     FocusFrame {

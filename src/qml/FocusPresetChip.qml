@@ -42,8 +42,8 @@ Item {
     Accessible.onPressAction: applied()
 
     Keys.onSpacePressed: applied()
-    Keys.onReturnPressed: beginRenaming()
-    Keys.onEnterPressed: beginRenaming()
+    Keys.onReturnPressed: event => event.isAutoRepeat || beginRenaming()
+    Keys.onEnterPressed: event => event.isAutoRepeat || beginRenaming()
 
     Rectangle {
         anchors.fill: parent

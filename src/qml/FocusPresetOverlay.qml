@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Controls
 import QtQuick.Layouts
 import Meridax
 
@@ -28,6 +29,17 @@ Item {
         adding = false;
         nameField.clear();
         addButton.forceActiveFocus();
+    }
+
+    /// A chip that was removed by a key hands the focus to the next one.
+    function remove(index: int) {
+        const byKey = (Window.activeFocusItem as Control)?.visualFocus ?? false;
+        renamingIndex = -1;
+        ViewModel.removeFocusPreset(index);
+        if (byKey) {
+            const next = chips.itemAt(Math.min(index, chips.count - 1)) ?? addButton;
+            next.forceActiveFocus(Qt.TabFocusReason);
+        }
     }
 
     width: 150
@@ -94,6 +106,8 @@ Item {
         // By number, so that the chips outlive a change of what they show: a press that ends a
         // renaming would otherwise lose the button it is on.
         Repeater {
+            id: chips
+
             model: root._presets.length
 
             FocusPresetChip {
@@ -118,10 +132,7 @@ Item {
                     root.renamingIndex = -1;
                     ViewModel.renameFocusPreset(index, newName);
                 }
-                onRemoved: {
-                    root.renamingIndex = -1;
-                    ViewModel.removeFocusPreset(index);
-                }
+                onRemoved: root.remove(index)
                 onUpdated: ViewModel.updateFocusPreset(index)
             }
         }

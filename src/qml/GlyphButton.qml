@@ -16,8 +16,8 @@ AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: toolTip
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
 
     background: Rectangle {
         radius: width / 2

@@ -17,8 +17,8 @@ ToolButton {
     Accessible.role: Accessible.Button
     Accessible.name: toolTip
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
 
     FocusFrame {
         anchors.margins: 2

@@ -13,8 +13,8 @@ AbstractButton {
     Accessible.role: Accessible.Link
     Accessible.name: text
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
 
     contentItem: Label {
         text: root.text

@@ -11,6 +11,8 @@ Label {
     /// Interrupts what the screen reader is saying.
     property bool urgent: false
 
+    /// What was told last.
+    readonly property alias told: root._told
     property string _told
 
     function _tell() {

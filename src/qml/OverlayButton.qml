@@ -22,8 +22,8 @@ AbstractButton {
     Accessible.name: text
     Accessible.description: toolTip
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
 
     background: Rectangle {
         radius: 6

@@ -20,6 +20,9 @@ Pane {
         signal colorPicked(newColor: color)
 
         function openDialog() {
+            // Assistive technology presses what is disabled, too.
+            if (!enabled)
+                return;
             dialog.selectedColor = pickedColor;
             dialog.open();
         }
@@ -38,8 +41,8 @@ Pane {
         Accessible.onPressAction: openDialog()
 
         Keys.onSpacePressed: openDialog()
-        Keys.onReturnPressed: openDialog()
-        Keys.onEnterPressed: openDialog()
+        Keys.onReturnPressed: event => event.isAutoRepeat || openDialog()
+        Keys.onEnterPressed: event => event.isAutoRepeat || openDialog()
 
         MouseArea {
             anchors.fill: parent

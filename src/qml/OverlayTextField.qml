@@ -27,8 +27,8 @@ T.TextField {
     Accessible.name: placeholderText
 
     // Taken here, lest the key go on to what the field lies in.
-    Keys.onReturnPressed: accepted()
-    Keys.onEnterPressed: accepted()
+    Keys.onReturnPressed: event => event.isAutoRepeat || accepted()
+    Keys.onEnterPressed: event => event.isAutoRepeat || accepted()
     Keys.onEscapePressed: cancelled()
 
     background: Rectangle {

@@ -10,7 +10,8 @@ Flickable {
     readonly property Item _focusItem: Window.window?.activeFocusItem ?? null
 
     function _showFocusItem() {
-        if (!_isInside(_focusItem))
+        // Under the pointer nothing may move: the press would miss what it was meant for.
+        if (!_isInside(_focusItem) || (_focusItem as Control)?.focusReason === Qt.MouseFocusReason)
             return;
         const item = _scrolledWhole(_focusItem);
         const top = item.mapToItem(contentItem, 0, 0).y;

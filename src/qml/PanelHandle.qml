@@ -27,8 +27,8 @@ Rectangle {
     Accessible.onToggleAction: clicked()
 
     Keys.onSpacePressed: clicked()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || clicked()
 
     Label {
         anchors.centerIn: parent

@@ -51,7 +51,7 @@ ColumnLayout {
     // Under its own diagram: the scale concerns the roundness alone.
     RowLayout {
         Layout.alignment: Qt.AlignHCenter
-        spacing: 4
+        spacing: 2
 
         Keys.onLeftPressed: {
             autoButton.forceActiveFocus(Qt.OtherFocusReason);

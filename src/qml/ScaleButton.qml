@@ -14,7 +14,7 @@ Rectangle {
 
     signal clicked()
 
-    implicitWidth: label.implicitWidth + 14
+    implicitWidth: label.implicitWidth + 10
     implicitHeight: 22
     radius: 3
     color: active ? Theme.separatorLine : "transparent"
@@ -32,8 +32,8 @@ Rectangle {
     Accessible.onToggleAction: clicked()
 
     Keys.onSpacePressed: clicked()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || clicked()
 
     Label {
         id: label

@@ -57,8 +57,8 @@ AbstractButton {
     focusPolicy: Qt.StrongFocus
     opacity: confirming ? 1.0 : hovered || visualFocus ? 0.95 : 0.55
     text: qsTr("Screenshot")
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
     onClicked: ViewModel.screenshotIncludeOverlays ? grabTarget()
                                                    : finish(ViewModel.captureScreenshot() !== "")
 

@@ -26,8 +26,8 @@ ToolButton {
     Accessible.onPressAction: clicked()
     Accessible.onToggleAction: clicked()
 
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || clicked()
 
     Behavior on rotation {
         NumberAnimation { duration: 140; easing.type: Easing.OutCubic }

@@ -27,8 +27,8 @@ CheckBox {
     Accessible.onPressAction: click()
     Accessible.onToggleAction: click()
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
     onToggled: chosen(checked)
 
     contentItem: Label {

@@ -17,7 +17,12 @@ ComboBox {
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: name === "" ? displayText : "%1: %2".arg(name).arg(displayText)
-    Accessible.onPressAction: popup.visible ? popup.close() : popup.open()
+    Accessible.onPressAction: {
+        if (popup.visible)
+            popup.close();
+        else if (enabled)
+            popup.open();
+    }
 
     // The box tells its text itself.
     Component.onCompleted: contentItem.Accessible.ignored = true

@@ -14,8 +14,8 @@ AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: text
 
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || click()
+    Keys.onEnterPressed: event => event.isAutoRepeat || click()
 
     contentItem: Label {
         text: root.text

@@ -30,6 +30,14 @@ RowLayout {
         moved(Math.max(from, Math.min(to, value + delta)));
     }
 
+    /// A button that reaches the end of the range cannot keep the focus.
+    function _stepBy(delta: real, button: StepButton) {
+        const reason = button.activeFocus ? button.focusReason : -1;
+        _moveBy(delta);
+        if (reason >= 0 && !button.enabled)
+            slider.forceActiveFocus(reason);
+    }
+
     spacing: 8
 
     Row {
@@ -97,11 +105,12 @@ RowLayout {
             spacing: 0
 
             StepButton {
+                id: minusButton
                 objectName: "minusButton"
                 text: "\u2212"
                 enabled: root.value > root.from
                 Accessible.name: "%1 %2".arg(root.label).arg(text)
-                onClicked: root.moved(Math.max(root.from, root.value - root.stepSize))
+                onClicked: root._stepBy(-root.stepSize, minusButton)
             }
 
             Slider {
@@ -131,11 +140,16 @@ RowLayout {
                 onFromChanged: _placeThumb()
                 onToChanged: _placeThumb()
                 onMoved: root.moved(value)
-                // Neither hand nor key: assistive technology writes the value itself.
+                // Neither hand nor key: assistive technology writes the value itself, even of what is
+                // disabled. A range that is changing may stand the wrong way round for a moment.
                 onValueChanged: {
                     const bounded = Math.max(from, Math.min(to, root.value));
-                    if (!pressed && value !== root.value && value !== bounded)
+                    if (pressed || from > to || value === root.value || value === bounded)
+                        return;
+                    if (enabled)
                         root.moved(value);
+                    else
+                        _placeThumb();
                 }
                 Keys.onReturnPressed: display.beginEditing()
                 Keys.onEnterPressed: display.beginEditing()
@@ -149,11 +163,12 @@ RowLayout {
             }
 
             StepButton {
+                id: plusButton
                 objectName: "plusButton"
                 text: "+"
                 enabled: root.value < root.to
                 Accessible.name: "%1 %2".arg(root.label).arg(text)
-                onClicked: root.moved(Math.min(root.to, root.value + root.stepSize))
+                onClicked: root._stepBy(root.stepSize, plusButton)
             }
         }
     }

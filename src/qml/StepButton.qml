@@ -19,7 +19,7 @@ RoundButton {
     autoRepeatInterval: 80
 
     Accessible.role: Accessible.Button
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: click()
 
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()

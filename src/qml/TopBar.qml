@@ -151,8 +151,8 @@ Rectangle {
             Material.foreground: Contrast.textOn(Material.background)
             Accessible.role: Accessible.Button
             Accessible.name: text
-            Keys.onReturnPressed: click()
-            Keys.onEnterPressed: click()
+            Keys.onReturnPressed: event => event.isAutoRepeat || click()
+            Keys.onEnterPressed: event => event.isAutoRepeat || click()
             onClicked: ViewModel.running ? ViewModel.stopCamera() : ViewModel.startCamera()
 
             FocusFrame {

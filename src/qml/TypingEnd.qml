@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 
 /// Ends typing on a press beside the text field: the field loses the focus, whatever lies under the
 /// press. Stands above all else in the window and lets every press through.
@@ -9,10 +10,13 @@ MouseArea {
     z: 100
     acceptedButtons: Qt.AllButtons
     onPressed: mouse => {
-        const field = root.Window.activeFocusItem;
-        if (field instanceof TextInput
-                && !field.contains(field.mapFromItem(root, mouse.x, mouse.y)))
-            field.focus = false;
+        const input = root.Window.activeFocusItem;
+        if (input instanceof TextInput) {
+            // A spin box gives the focus back to the field in it.
+            const field = input.parent instanceof SpinBox ? input.parent : input;
+            if (!field.contains(field.mapFromItem(root, mouse.x, mouse.y)))
+                field.focus = false;
+        }
         mouse.accepted = false;
     }
 }

@@ -59,6 +59,11 @@ Rectangle {
             Accessible.role: Accessible.Slider
             Accessible.name: qsTr("Zoom")
             onMoved: zoomControl.setValue(value)
+            // Assistive technology writes the value itself.
+            onValueChanged: {
+                if (!pressed && value !== zoomControl.value)
+                    zoomControl.setValue(value);
+            }
         }
 
         ZoomStepButton {
