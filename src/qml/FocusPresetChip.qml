@@ -15,6 +15,9 @@ Item {
     required property bool renaming
     required property int iconSize
 
+    /// The keyboard focus is on the button that removes the chip.
+    readonly property alias removeFocused: removeButton.visualFocus
+
     signal applied()
     signal renameRequested()
     /// The rename field closes: with `newName`, or without a change when it is empty.
@@ -91,6 +94,8 @@ Item {
         spacing: 4
 
         GlyphButton {
+            id: removeButton
+
             objectName: "removeButton"
             Layout.preferredWidth: 18
             Layout.preferredHeight: 18

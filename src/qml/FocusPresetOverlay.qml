@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Layouts
 import Meridax
 
@@ -32,8 +31,7 @@ Item {
     }
 
     /// A chip that was removed by a key hands the focus to the next one.
-    function remove(index: int) {
-        const byKey = (Window.activeFocusItem as Control)?.visualFocus ?? false;
+    function remove(index: int, byKey: bool) {
         renamingIndex = -1;
         ViewModel.removeFocusPreset(index);
         if (byKey) {
@@ -132,7 +130,7 @@ Item {
                     root.renamingIndex = -1;
                     ViewModel.renameFocusPreset(index, newName);
                 }
-                onRemoved: root.remove(index)
+                onRemoved: root.remove(index, removeFocused)
                 onUpdated: ViewModel.updateFocusPreset(index)
             }
         }

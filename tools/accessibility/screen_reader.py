@@ -17,7 +17,7 @@ CONTROLS = {"button", "check box", "combo box", "link", "menu item", "page tab",
 EMPTY = {"filler", "invalid", "redundant object", "unknown"}
 
 
-def wait_for(what, condition, limit=20.0):
+def wait_for(what, condition, limit=60.0):
     """Lets events in until `condition()` is true, and returns its value. AssertionError that names
     `what` after `limit` seconds."""
     context = GLib.MainContext.default()
@@ -81,14 +81,19 @@ class Object:
     def value(self, number):
         Atspi.Value.set_current_value(self.accessible, number)
 
-    def walk(self):
-        """This object and all that can be seen in it, in the order of reading."""
-        yield self
+    def children(self):
+        """What can be seen directly in this object."""
         for i in range(Atspi.Accessible.get_child_count(self.accessible)):
             child = Atspi.Accessible.get_child_at_index(self.accessible, i)
             if child is not None and Atspi.Accessible.get_state_set(child).contains(
                     Atspi.StateType.VISIBLE):
-                yield from Object(child).walk()
+                yield Object(child)
+
+    def walk(self):
+        """This object and all that can be seen in it, in the order of reading."""
+        yield self
+        for child in self.children():
+            yield from child.walk()
 
 
 class ScreenReader:
@@ -121,11 +126,13 @@ class ScreenReader:
                     if Atspi.Accessible.get_child_count(program) > 0:
                         return Object(Atspi.Accessible.get_child_at_index(program, 0))
             return None
-        self.window = wait_for(f"the program {name}", search, limit=60)
+        self.window = wait_for(f"the program {name}", search, limit=120)
 
     def look_for(self, role, name):
         """The first visible object of that role whose name fits, or None."""
-        return next((object for object in self.window.walk()
+        # Dialogs lie in the window itself, so that there is no need to look deeper.
+        where = self.window.children() if role == "dialog" else self.window.walk()
+        return next((object for object in where
                      if object.role == role and fits(object.name, name)), None)
 
     def find(self, role, name):

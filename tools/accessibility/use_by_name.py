@@ -83,8 +83,8 @@ def open_by_key(reader, opener, name):
 def close_by_key(reader, name, back):
     """Closes the dialog `name` by the escape key; the focus goes back to the button `back`."""
     reader.press_key(ESCAPE)
-    wait_for(f"the end of “{name}”", lambda: reader.look_for("dialog", name) is None)
     wait_for(f"the focus to come back to “{back}”", lambda: reader.focus.name == back)
+    wait_for(f"the end of “{name}”", lambda: reader.look_for("dialog", name) is None)
 
 
 def visit_dialogs(reader):
@@ -152,8 +152,8 @@ def main(build):
     settings = os.path.join(os.environ["XDG_DATA_HOME"], "Tarnwick Optics/Meridax")
     os.makedirs(settings)
     with open(os.path.join(settings, "appsettings.json"), "w", encoding="utf-8") as file:
-        # A small window is drawn faster, where no graphics card helps.
-        json.dump({"windowWidth": 900, "windowHeight": 680}, file)
+        # A narrow window is drawn faster, where no graphics card helps.
+        json.dump({"windowWidth": 900, "windowHeight": 940}, file)
     with tempfile.TemporaryDirectory() as work:
         reader = ScreenReader()
         processes = [subprocess.Popen(["openbox", "--sm-disable"]),

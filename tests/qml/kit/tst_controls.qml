@@ -34,6 +34,19 @@ TestCase {
     }
 
     Component {
+        id: vanishingComponent
+
+        Row {
+            property alias first: first
+            property alias second: second
+
+            Button { id: first }
+            Button { id: second }
+            Parts.FocusKeeper { }
+        }
+    }
+
+    Component {
         id: comboComponent
 
         Parts.SelectionComboBox {
@@ -95,6 +108,16 @@ TestCase {
         compare(inner.value, 10);
         testCase.forceActiveFocus();
         compare(inner.value, 12);
+        // As assistive technology does.
+        inner.value = 15;
+        compare(spin.changes, [10, 15]);
+    }
+
+    function test_focusGoesOnFromWhatVanishes() {
+        const row = createTemporaryObject(vanishingComponent, testCase);
+        row.first.forceActiveFocus(Qt.TabFocusReason);
+        row.first.visible = false;
+        tryVerify(() => row.second.visualFocus);
     }
 
     function test_selectionSurvivesANewModel() {

@@ -198,6 +198,22 @@ TestCase {
         compare(overlay.renamingIndex, -1);
     }
 
+    function test_keyboard() {
+        add("eins", "zwei");
+        part("preset1").forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Return);
+        verify(chipPart(1, "renameField").activeFocus);
+        type("neu");
+        keyClick(Qt.Key_Return);
+        compare(names(), ["eins", "neu"]);
+        verify(part("preset1").activeFocus);
+        keyClick(Qt.Key_Tab);
+        verify(chipPart(1, "removeButton").activeFocus);
+        keyClick(Qt.Key_Space);
+        compare(names(), ["eins"]);
+        verify(part("preset0").activeFocus);
+    }
+
     function test_focusValue() {
         ViewModel.focusValue = 321;
         add("eins");

@@ -317,6 +317,12 @@ TestCase {
         verify(part("valueEditor").activeFocus);
     }
 
+    function test_assistiveTechnologyWritesTheValue() {
+        create({});
+        part("slider").value = 70;
+        compare(owner.moves, [70]);
+    }
+
     function test_wideningTheRangeMovesTheThumb() {
         owner.value = 1500;
         create({ from: 0, to: 100 });
