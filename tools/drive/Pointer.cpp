@@ -17,6 +17,23 @@ constexpr unsigned char kLeftButton = 1;
 /// Time for the window to see a move before the press, as with a hand; hover states follow it.
 constexpr int kMoveToPressMs = 60;
 
+/// For a click to reach its window, however busy the machine.
+constexpr int kClickLimitMs = 20000;
+
+/// Sees the button go up.
+class ReleaseWatch : public QObject
+{
+public:
+    bool released = false;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        released |= event->type() == QEvent::MouseButtonRelease;
+        return false;
+    }
+};
+
 QPoint screenPosition(const QQuickItem &item, QPointF part)
 {
     const QPointF place =
@@ -68,8 +85,12 @@ void Pointer::moveTo(const QQuickItem &item, QPointF part)
 void Pointer::click(const QQuickItem &item, QPointF part)
 {
     moveTo(item, part);
+    ReleaseWatch watch;
+    item.window()->installEventFilter(&watch);
     send(XCB_BUTTON_PRESS, kLeftButton);
     send(XCB_BUTTON_RELEASE, kLeftButton);
+    if (!QTest::qWaitFor([&watch] { return watch.released; }, kClickLimitMs))
+        throw std::runtime_error("the window did not see a click");
 }
 
 void Pointer::leave()

@@ -18,7 +18,8 @@ public:
 
     /// Moves to the place `part` of `item`, which is a part of its size: at first its middle.
     void moveTo(const QQuickItem &item, QPointF part = {0.5, 0.5});
-    /// Moves there and presses and releases the left button.
+    /// Moves there, presses and releases the left button, and waits until the window has seen it.
+    /// Throws std::runtime_error when it does not.
     void click(const QQuickItem &item, QPointF part = {0.5, 0.5});
     /// Moves out of the way, to the lower right corner of the screen.
     void leave();

@@ -91,6 +91,9 @@ void ScreenshotStory::lastCrash()
     take(u"crash-recovery"_s, {.parts = {u"crashRecoveryDialog"_s}});
     if (wants({u"crash-details"_s})) {
         click(u"detailsToggle"_s);
+        waitFor(u"the details"_s, [this] {
+            return m_studio.scene().item(u"crashDetails"_s).property("expanded").toBool();
+        });
         take(u"crash-details"_s);
     }
     if (wants({u"crash-report"_s, u"crash-report-end"_s})) {
@@ -116,6 +119,9 @@ void ScreenshotStory::updateOffered()
         close(u"whatsNewDialog"_s);
     }
     click(u"dismissButton"_s);
+    waitFor(u"the banner to go"_s, [this] {
+        return !m_studio.scene().object(u"updateBanner"_s).property("visible").toBool();
+    });
     m_pointer.leave();
 }
 
@@ -131,8 +137,7 @@ void ScreenshotStory::firstStart()
     plugCamera();
     const QStringList offered = value("resolutionOptions").toStringList();
     const QStringList wanted = offered.filter(u"1280 x 720"_s);
-    click(u"resolutionSelector"_s);
-    m_pointer.leave();
+    openList(u"resolutionSelector"_s);
     take(u"resolutions"_s);
     m_pointer.click(m_studio.scene().itemWithText(wanted));
     waitFor(u"the resolution"_s, [&] {
@@ -193,6 +198,23 @@ void ScreenshotStory::click(const QString &parentName, const QString &objectName
 {
     m_studio.scene().waitUntilStill();
     m_pointer.click(m_studio.scene().item(parentName, objectName));
+}
+
+void ScreenshotStory::openList(const QString &objectName)
+{
+    const int before = popups(m_studio.scene().top());
+    click(objectName);
+    waitFor(u"the list of "_s + objectName,
+            [&] { return popups(m_studio.scene().top()) > before; });
+    m_pointer.leave();
+}
+
+void ScreenshotStory::closeList(const QString &parentName, const QString &objectName)
+{
+    const int before = popups(m_studio.scene().top());
+    click(parentName, objectName);
+    waitFor(u"the list to close"_s, [&] { return popups(m_studio.scene().top()) < before; });
+    m_pointer.leave();
 }
 
 void ScreenshotStory::takeHelp(const QString &name, const QQuickItem &item)

@@ -59,6 +59,10 @@ private:
     void takeWhole(const QString &name, QQuickItem &flickable, const PictureSetting &setting = {});
     void click(const QString &objectName);
     void click(const QString &parentName, const QString &objectName);
+    /// Clicks and waits for the list or menu that it opens.
+    void openList(const QString &objectName);
+    /// Clicks beside an open list, on the item `objectName` of `parentName`.
+    void closeList(const QString &parentName, const QString &objectName);
     /// Points at an item until its help shows, takes the picture and leaves it.
     void takeHelp(const QString &name, const QQuickItem &item);
     void openSettings();

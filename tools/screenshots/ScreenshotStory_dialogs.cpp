@@ -14,10 +14,9 @@ void ScreenshotStory::settings()
               {.parts = {u"settingsPanel"_s}});
     takeHelp(u"settings-help"_s, m_studio.scene().item(u"rememberCollapsedSections"_s));
     if (wants({u"languages"_s})) {
-        click(u"language"_s);
-        m_pointer.leave();
+        openList(u"language"_s);
         take(u"languages"_s);
-        click(u"settingsHeader"_s); // beside the list
+        closeList(u"settingsPanel"_s, u"settingsHeader"_s);
     }
     if (wants({u"screenshot-folder"_s})) {
         click(u"screenshotFolderButton"_s);
@@ -64,10 +63,9 @@ void ScreenshotStory::bugReport()
     waitOpened(u"bugReportDialog"_s);
     take(u"bug-report"_s, {.parts = {u"bugReportDialog"_s}});
     if (wants({u"categories"_s})) {
-        click(u"categoryBox"_s);
-        m_pointer.leave();
+        openList(u"categoryBox"_s);
         take(u"categories"_s);
-        click(u"bugReportDialog"_s, u"titleLabel"_s); // beside the list
+        closeList(u"bugReportDialog"_s, u"titleLabel"_s);
     }
     scene.item(u"titleField"_s).setProperty("text", u"Sektor springt nach der dritten Messung"_s);
     scene.item(u"descriptionArea"_s, u"area"_s)
@@ -130,6 +128,7 @@ void ScreenshotStory::feedback()
         waitClosed(u"settingsPanel"_s);
         waitOpened(u"feedbackDialog"_s);
         click(u"feedbackDialog"_s, u"star%1"_s.arg(stars));
+        waitFor(u"the stars"_s, [&] { return dialog.property("rating").toInt() == stars; });
         m_pointer.leave();
     };
     openRated(4);

@@ -32,13 +32,18 @@ void ScreenshotStory::livePanels()
               {.parts = {u"leftPanel"_s}});
     takeHelp(u"help"_s, m_studio.scene().item(u"exposureSlider"_s, u"helpSign"_s));
     if (wants({u"panels-folded"_s})) {
-        click(u"leftPanel"_s, u"panelHandle"_s);
-        click(u"rightPanel"_s, u"panelHandle"_s);
-        m_pointer.leave();
+        const auto fold = [this](bool folded) {
+            for (const QString &panel : {u"leftPanel"_s, u"rightPanel"_s}) {
+                click(panel, u"panelHandle"_s);
+                waitFor(panel, [&] {
+                    return m_studio.scene().item(panel).property("expanded").toBool() != folded;
+                });
+            }
+            m_pointer.leave();
+        };
+        fold(true);
         take(u"panels-folded"_s);
-        click(u"leftPanel"_s, u"panelHandle"_s);
-        click(u"rightPanel"_s, u"panelHandle"_s);
-        m_pointer.leave();
+        fold(false);
     }
 }
 
@@ -101,6 +106,7 @@ void ScreenshotStory::spotFocus()
         return;
     Scene &scene = m_studio.scene();
     click(u"focusTapButton"_s);
+    waitFor(u"the mode"_s, [this] { return value("focusTapModeActive").toBool(); });
     takeHelp(u"spot-focus-help"_s, scene.item(u"focusTapButton"_s));
     if (wants({u"spot-focus"_s})) {
         m_pointer.click(scene.item(u"overlayCanvas"_s), {0.52, 0.6});
