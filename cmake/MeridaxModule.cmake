@@ -69,19 +69,22 @@ target_link_libraries(meridax_module
         Qt6::Quick Qt6::QuickControls2 Qt6::Multimedia Qt6::Svg Qt6::Network
     PRIVATE meridax_options meridax_buildinfo)
 
-# Byte code is a table of a few kilobytes behind a header that takes seconds: twenty tables share
-# one compilation.
+# A QML file is a table of a few kilobytes, in a release with a few functions, behind headers that
+# take seconds: several share one compilation.
 if(CMAKE_BUILD_TYPE STREQUAL "Debug")
-    set_target_properties(meridax_module PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
-    get_target_property(_tables meridax_module SOURCES)
-    list(FILTER _tables INCLUDE REGEX "/qmlcache/.*_(qml|mjs)\\.cpp$")
-    set(_count 0)
-    foreach(_table IN LISTS _tables)
-        math(EXPR _group "${_count} / 20")
-        set_source_files_properties(${_table} PROPERTIES UNITY_GROUP "bytecode${_group}")
-        math(EXPR _count "${_count} + 1")
-    endforeach()
+    set(_group_size 20)
+else()
+    set(_group_size 8)
 endif()
+set_target_properties(meridax_module PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+get_target_property(_tables meridax_module SOURCES)
+list(FILTER _tables INCLUDE REGEX "/qmlcache/.*_(qml|mjs)\\.cpp$")
+set(_count 0)
+foreach(_table IN LISTS _tables)
+    math(EXPR _group "${_count} / ${_group_size}")
+    set_source_files_properties(${_table} PROPERTIES UNITY_GROUP "qml${_group}")
+    math(EXPR _count "${_count} + 1")
+endforeach()
 
 file(GLOB _resources RELATIVE ${PROJECT_SOURCE_DIR}/resources CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/resources/*.svg ${PROJECT_SOURCE_DIR}/resources/*.png
