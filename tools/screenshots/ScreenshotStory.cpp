@@ -222,9 +222,15 @@ void ScreenshotStory::takeHelp(const QString &name, const QQuickItem &item)
     if (!wants({name}))
         return;
     const int before = popups(m_studio.scene().top());
-    m_pointer.moveTo(item);
-    waitFor(u"the help"_s, [&] { return popups(m_studio.scene().top()) > before; });
-    take(name);
+    const auto helps = [&] { return popups(m_studio.scene().top()) > before; };
+    // Anew each time: where the texts move the item from under the pointer, the help goes.
+    take(name, {.before = [&] {
+             m_pointer.leave();
+             waitFor(u"no help"_s, [&] { return !helps(); });
+             m_studio.scene().waitUntilStill();
+             m_pointer.moveTo(item);
+             waitFor(u"the help"_s, helps);
+         }});
     m_pointer.leave();
 }
 

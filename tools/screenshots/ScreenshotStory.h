@@ -36,6 +36,7 @@ private:
     void startCamera();
     void livePanels();
     void overlays();
+    void foldPanels(bool folded);
     void presets();
     void spotFocus();
     void screenshotButton();

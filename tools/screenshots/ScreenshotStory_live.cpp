@@ -32,19 +32,21 @@ void ScreenshotStory::livePanels()
               {.parts = {u"leftPanel"_s}});
     takeHelp(u"help"_s, m_studio.scene().item(u"exposureSlider"_s, u"helpSign"_s));
     if (wants({u"panels-folded"_s})) {
-        const auto fold = [this](bool folded) {
-            for (const QString &panel : {u"leftPanel"_s, u"rightPanel"_s}) {
-                click(panel, u"panelHandle"_s);
-                waitFor(panel, [&] {
-                    return m_studio.scene().item(panel).property("expanded").toBool() != folded;
-                });
-            }
-            m_pointer.leave();
-        };
-        fold(true);
+        foldPanels(true);
         take(u"panels-folded"_s);
-        fold(false);
+        foldPanels(false);
     }
+}
+
+void ScreenshotStory::foldPanels(bool folded)
+{
+    for (const QString &panel : {u"leftPanel"_s, u"rightPanel"_s}) {
+        click(panel, u"panelHandle"_s);
+        waitFor(panel, [&] {
+            return m_studio.scene().item(panel).property("expanded").toBool() != folded;
+        });
+    }
+    m_pointer.leave();
 }
 
 void ScreenshotStory::overlays()
@@ -109,6 +111,8 @@ void ScreenshotStory::spotFocus()
     waitFor(u"the mode"_s, [this] { return value("focusTapModeActive").toBool(); });
     takeHelp(u"spot-focus-help"_s, scene.item(u"focusTapButton"_s));
     if (wants({u"spot-focus"_s})) {
+        foldPanels(true); // in a small window they leave nothing of the picture free
+        scene.waitUntilStill();
         m_pointer.click(scene.item(u"overlayCanvas"_s), {0.52, 0.6});
         waitFor(u"the sweep"_s, [this] { return value("focusSweepActive").toBool(); });
         // A frame every few seconds: the sweep outlasts the pictures.
@@ -120,6 +124,7 @@ void ScreenshotStory::spotFocus()
             u"the end of the sweep"_s, [this] { return !value("focusSweepActive").toBool(); },
             std::chrono::seconds(60));
         camera({kSlow});
+        foldPanels(false);
     }
     click(u"focusTapButton"_s);
     m_pointer.leave();
