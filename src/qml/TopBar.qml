@@ -117,7 +117,9 @@ Rectangle {
             color: ViewModel.running ? Theme.text : Theme.textMuted
             elide: Text.ElideRight
             Layout.fillWidth: true
-            Layout.minimumWidth: Math.min(130, Math.ceil(implicitWidth))
+            // Beside the pill a narrow window has less to give; nothing is wrong then.
+            Layout.minimumWidth: Math.min(ViewModel.calibrationActive ? 60 : 130,
+                                          Math.ceil(implicitWidth))
             Layout.maximumWidth: Math.min(260, Math.ceil(implicitWidth))
         }
 

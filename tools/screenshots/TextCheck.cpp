@@ -154,6 +154,21 @@ QString quoted(const QQuickItem &text)
     return u'"' + text.property("text").toString().left(60) + u'"';
 }
 
+void findButtonsOutside(const QQuickItem &item, QStringList &found)
+{
+    if (!item.isVisible() || item.opacity() < 0.01)
+        return;
+    if (item.inherits("QQuickAbstractButton")) {
+        bool cut = false;
+        const QRectF area = item.mapRectToScene(item.boundingRect());
+        if (!seenPart(item, area, &cut).isEmpty() && cut)
+            found << QStringLiteral("button outside: ") + quoted(item);
+    }
+    const QList<QQuickItem *> children = item.childItems();
+    for (const QQuickItem *child : children)
+        findButtonsOutside(*child, found);
+}
+
 } // namespace
 
 void forEachText(const QQuickItem &top,
@@ -171,6 +186,7 @@ QStringList misfits(const QQuickItem &top)
         QRectF covered;
     };
     QStringList found;
+    findButtonsOutside(top, found);
     QList<Seen> all;
     forEachText(top, [&](const QQuickItem &text, const QRectF &covered) {
         if (const QString why = misfit(text); !why.isEmpty())

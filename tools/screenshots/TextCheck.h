@@ -10,6 +10,7 @@
 void forEachText(const QQuickItem &top,
                  const std::function<void(const QQuickItem &text, const QRectF &covered)> &visit);
 
-/// What does not fit below `top`: texts that are cut where nothing of the user's stands, that leave
-/// their panel, dialog or the window, or that lie over one another. One line for each.
+/// What does not fit below `top`: texts that are cut where nothing of the user's stands, texts and
+/// buttons that leave their panel, dialog or the window, and texts that lie over one another. One
+/// line for each.
 QStringList misfits(const QQuickItem &top);
