@@ -232,6 +232,7 @@ void ScreenshotStory::takeHelp(const QString &name, const QQuickItem &item)
              waitFor(u"the help"_s, helps);
          }});
     m_pointer.leave();
+    waitFor(u"no help"_s, [&] { return !helps(); });
 }
 
 void ScreenshotStory::openSettings()
