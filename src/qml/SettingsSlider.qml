@@ -154,6 +154,14 @@ RowLayout {
                 Keys.onReturnPressed: display.beginEditing()
                 Keys.onEnterPressed: display.beginEditing()
 
+                FocusFrame {
+                    anchors {
+                        topMargin: 6
+                        bottomMargin: 6
+                    }
+                    visible: slider.visualFocus
+                }
+
                 // Not while pressed: the thumb follows the hand.
                 Binding on value {
                     value: root.value

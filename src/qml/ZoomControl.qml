@@ -50,6 +50,8 @@ Rectangle {
         }
 
         Slider {
+            id: slider
+
             objectName: "zoomSlider"
             from: 0
             to: 100
@@ -63,6 +65,10 @@ Rectangle {
             onValueChanged: {
                 if (!pressed && value !== zoomControl.value)
                     zoomControl.setValue(value);
+            }
+
+            FocusFrame {
+                visible: slider.visualFocus
             }
         }
 
