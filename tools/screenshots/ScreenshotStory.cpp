@@ -221,6 +221,9 @@ void ScreenshotStory::takeHelp(const QString &name, const QQuickItem &item)
 {
     if (!wants({name}))
         return;
+    // The help of what was pointed at before goes first.
+    m_pointer.leave();
+    m_studio.scene().waitUntilStill();
     const int before = popups(m_studio.scene().top());
     const auto helps = [&] { return popups(m_studio.scene().top()) > before; };
     // Anew each time: where the texts move the item from under the pointer, the help goes.
