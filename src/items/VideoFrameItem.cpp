@@ -11,7 +11,7 @@ namespace meridax {
 
 namespace {
 
-constexpr double MinZoom = 0.01;
+constexpr double kMinZoom = 0.01;
 
 /// Owns its texture and knows which frame it holds.
 class VideoFrameNode : public QSGSimpleTextureNode
@@ -36,7 +36,7 @@ VideoFrameItem::VideoFrameItem(QQuickItem *parent)
 
 void VideoFrameItem::setZoom(double zoom)
 {
-    const double bounded = zoom >= MinZoom ? zoom : MinZoom; // so that NaN is bounded as well
+    const double bounded = zoom >= kMinZoom ? zoom : kMinZoom; // so that NaN is bounded as well
     if (qFuzzyCompare(bounded, m_zoom))
         return;
     m_zoom = bounded;

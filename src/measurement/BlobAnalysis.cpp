@@ -10,7 +10,7 @@
 namespace meridax {
 namespace {
 
-constexpr int detectionColumns = 1280;
+constexpr int kDetectionColumns = 1280;
 
 /// The upper end of a range that must hold at least one unit above `lower`.
 float upperLimit(double wanted, float lower)
@@ -121,12 +121,16 @@ std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv
                                       cv::Mat &scaled)
 {
     std::vector<cv::KeyPoint> keypoints;
-    if (grey.cols <= detectionColumns) {
+    const cv::SimpleBlobDetector::Params params = detector.getParams();
+    // One threshold finds nothing, and the library would complain of it at every frame.
+    if (params.minThreshold + params.thresholdStep >= params.maxThreshold)
+        return keypoints;
+    if (grey.cols <= kDetectionColumns) {
         detector.detect(grey, keypoints);
         return keypoints;
     }
 
-    const double scale = static_cast<double>(detectionColumns) / grey.cols;
+    const double scale = static_cast<double>(kDetectionColumns) / grey.cols;
     if (grey.rows * scale < 1.0)
         return keypoints;
     cv::resize(grey, scaled, cv::Size(), scale, scale, cv::INTER_AREA);

@@ -48,6 +48,14 @@ Moments momentsOf(std::span<const QPointF> points)
     return m;
 }
 
+/// Points on one line, or fewer than three different ones. Only against the size of its terms does
+/// the determinant tell: at the scale of a frame its rounding alone is far above any fixed limit.
+bool onOneLine(const Moments &m)
+{
+    constexpr double kRounding = 1e-14;
+    return !(m.covariance > kRounding * m.z * m.z);
+}
+
 /// The characteristic polynomial of Taubin's eigenvalue problem. Its smallest root, close to 0 for
 /// points near a circle, gives the centre.
 struct CharacteristicPolynomial
@@ -76,24 +84,24 @@ struct CharacteristicPolynomial
 /// of the algebraic least-squares circle.
 double smallestRoot(const CharacteristicPolynomial &polynomial)
 {
-    constexpr int maxSteps = 50;
-    constexpr double relativeTolerance = 1e-12;
-    constexpr double flatSlope = 1e-14;
+    constexpr int kMaxSteps = 50;
+    constexpr double kRelativeTolerance = 1e-12;
+    constexpr double kFlatSlope = 1e-14;
 
     double t = 0.0;
     double previousValue = 1e20;
-    for (int step = 0; step < maxSteps; ++step) {
+    for (int step = 0; step < kMaxSteps; ++step) {
         const double value = polynomial.value(t);
         if (std::abs(value) > std::abs(previousValue)) {
             qWarning() << "[Calibration] Taubin-Newton divergiert, Fallback auf Centroid";
             return 0.0;
         }
         const double slope = polynomial.slope(t);
-        if (std::abs(slope) < flatSlope)
+        if (std::abs(slope) < kFlatSlope)
             return t;
 
         const double next = t - value / slope;
-        const bool converged = std::abs(next) * relativeTolerance >= std::abs(next - t);
+        const bool converged = std::abs(next) * kRelativeTolerance >= std::abs(next - t);
         t = next;
         if (converged)
             return t;
@@ -110,11 +118,13 @@ CircleFitResult computeCenterFromMeasurements(std::span<const QPointF> points)
         return {};
 
     const Moments m = momentsOf(points);
+    if (onOneLine(m))
+        return {};
     const double t = smallestRoot(CharacteristicPolynomial(m));
 
-    constexpr double singular = 1e-12;
+    constexpr double kSingular = 1e-12;
     const double det = t * t - m.z * t + m.covariance;
-    if (!std::isfinite(det) || std::abs(det) < singular)
+    if (!std::isfinite(det) || std::abs(det) < kSingular)
         return {};
 
     CircleFitResult fit;

@@ -7,7 +7,7 @@
 namespace meridax {
 namespace {
 
-constexpr double firstAngle = -45.0;
+constexpr double kFirstAngle = -45.0;
 
 /// The smallest distance from the centre at which an angle has a meaning, px.
 double minimumRadius(QSize frame)
@@ -33,7 +33,7 @@ double guideSpacing(int positions)
 
 double guideAngle(int guideIndex, int positions)
 {
-    return firstAngle - guideIndex * guideSpacing(positions);
+    return kFirstAngle - guideIndex * guideSpacing(positions);
 }
 
 SectorState evaluateSector(QPointF blob, QPointF sectorCentre, QSize frame, int guideIndex,

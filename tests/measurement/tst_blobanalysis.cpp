@@ -102,8 +102,6 @@ private slots:
         QTest::newRow("defaults") << BlobSettings{} << 1;
         QTest::newRow("any circularity, any inertia")
             << BlobSettings{.minCircularity = 0.0, .minInertiaRatio = 0.0} << 1;
-        QTest::newRow("last single threshold")
-            << BlobSettings{.minThreshold = 100, .maxThreshold = 110} << 0;
         QTest::newRow("two thresholds")
             << BlobSettings{.minThreshold = 100, .maxThreshold = 111, .minCircularity = 0.8} << 1;
         // The search costs a step for every 10 grey levels up to the maximum.
@@ -118,6 +116,36 @@ private slots:
         const cv::Mat grey = paperWithDisc(320, 240, {160.3, 120.4}, 30.0);
         QTEST(static_cast<int>(detect(grey, settings).size()), "blobs");
         QVERIFY2(detect(255 - grey, settings).empty(), "a light blob");
+    }
+
+    void singleThresholdIsNotSearched()
+    {
+        class Watched : public cv::SimpleBlobDetector
+        {
+        public:
+            Params params;
+            int searches = 0;
+            void setParams(const Params &) override {}
+            Params getParams() const override { return params; }
+            const std::vector<std::vector<cv::Point>> &getBlobContours() const override
+            {
+                static const std::vector<std::vector<cv::Point>> none;
+                return none;
+            }
+            void detect(cv::InputArray, std::vector<cv::KeyPoint> &, cv::InputArray) override
+            {
+                ++searches;
+            }
+        } detector;
+        cv::Mat scaled;
+        const auto searches = [&](double min, double max) {
+            detector.params = buildDetectorParams({.minThreshold = min, .maxThreshold = max});
+            detectBlobs(detector, paper(1300, 20), scaled);
+            return std::exchange(detector.searches, 0);
+        };
+        QCOMPARE(searches(200, 201), 0);
+        QCOMPARE(searches(100, 110), 0);
+        QCOMPARE(searches(100, 111), 1);
     }
 
     void searchesAtMost1280Columns_data()

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <limits>
+#include <random>
 
 using namespace meridax;
 using meridax::testing::circlePoints;
@@ -144,8 +145,6 @@ private slots:
 
         QTest::newRow("none") << Points{};
         QTest::newRow("coincident") << Points(8, QPointF(512, 384));
-        QTest::newRow("two of three equal") << Points{{100, 100}, {100, 100}, {300, 200}};
-        QTest::newRow("slanted line") << Points{{0, 0}, {16, 8}, {32, 16}, {64, 32}};
         QTest::newRow("not a number") << Points{{100, 0}, {0, nan}, {-100, 0}};
         QTest::newRow("beyond the range of double") << Points{{1e120, 0}, {0, 1e120}, {-1e120, 0}};
     }
@@ -154,6 +153,24 @@ private slots:
     {
         QFETCH(Points, points);
         QVERIFY(!computeCenterFromMeasurements(points).valid);
+    }
+
+    void rejectsDegenerateSetsEverywhere()
+    {
+        std::mt19937 random(7);
+        const auto within = [&random](double low, double high) {
+            return std::uniform_real_distribution(low, high)(random);
+        };
+        for (int round = 0; round < 2000; ++round) {
+            const QPointF start(within(0, 4000), within(0, 3000));
+            const QPointF direction = polar({}, std::pow(10.0, within(-1, 3)), within(0, 360));
+            Points line;
+            for (int i = 3 + round % 6; i > 0; --i)
+                line.push_back(start + direction * within(-1, 1));
+            QVERIFY(!computeCenterFromMeasurements(line).valid);
+            const QPointF other(within(0, 4000), within(0, 3000));
+            QVERIFY(!computeCenterFromMeasurements(Points{start, start, other}).valid);
+        }
     }
 
     void acceptsNearlyCollinearPoints()

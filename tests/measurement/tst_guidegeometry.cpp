@@ -38,7 +38,9 @@ private slots:
         row("after more than a turn", polar(origin, 200, 75), frame, 2, 3, middle);
         row("20 degrees across the seam", polar(origin, 200, 160), frame, 3, 8, outside);
         row("at the smallest radius", {0, -40}, frame, 1, 8, middle);
+        row("nearer", {0, -39.99}, frame, 1, 8, outside);
         row("small upright frame", {0, -20}, QSize(100, 640), 1, 8, middle);
+        row("nearer, in it", {0, -19.99}, QSize(100, 640), 1, 8, outside);
         row("not a number", {qQNaN(), 0}, frame, 0, 8, outside);
     }
 
