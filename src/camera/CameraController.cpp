@@ -2,11 +2,13 @@
 
 #include <QCamera>
 
+#include <utility>
+
 namespace meridax {
 
-CameraController::CameraController(QObject *parent)
+CameraController::CameraController(QObject *parent, CameraControls controls)
     : QObject(parent)
-    , m_backend(createCameraBackend())
+    , m_controls(std::move(controls))
 {
     qRegisterMetaType<CameraCapabilities>("CameraCapabilities");
     createCalibrationSession();

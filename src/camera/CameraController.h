@@ -59,7 +59,8 @@ class CameraController : public QObject
     QML_ANONYMOUS
 
 public:
-    explicit CameraController(QObject *parent = nullptr);
+    explicit CameraController(QObject *parent = nullptr,
+                              CameraControls controls = platformCameraControls());
     ~CameraController() override;
 
     /// Opens the camera that the current settings name. Success is known when
@@ -185,8 +186,8 @@ private:
     QCameraDevice m_device;      ///< what m_camera was opened on
     QVideoSink m_sink;
     FrameWatchdog m_watchdog;
-    std::unique_ptr<ICameraBackend> m_backend; ///< may be null
-    AppSettings m_settings;                    ///< GUI thread only
+    CameraControls m_controls;
+    AppSettings m_settings; ///< GUI thread only
 
     bool m_capabilitiesQueried = false;
     std::atomic<bool> m_capabilitiesProbeRunning = false;

@@ -154,7 +154,7 @@ void CameraController::applyCameraControls()
         return;
     // An error that a call raises lets go of m_camera; the object itself lives on for a turn.
     QCamera &camera = *m_camera;
-    const bool backendFirst = controlOrder() == ControlOrder::BackendFirst;
+    const bool backendFirst = m_controls.order == ControlOrder::BackendFirst;
     if (backendFirst && backendTakes(m_settings.camera))
         return;
     camera.setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
@@ -166,7 +166,7 @@ void CameraController::applyCameraControls()
 
 bool CameraController::backendTakes(const CameraSettings &settings) const
 {
-    return m_backend && m_backend->applySettings(settings, nullptr);
+    return m_controls.backend && m_controls.backend->applySettings(settings, nullptr);
 }
 
 void CameraController::applyControlsThroughQt(QCamera &camera) const
@@ -187,7 +187,7 @@ void CameraController::applyFocusValue(int value)
     QCamera &camera = *m_camera;
     CameraSettings settings = sweepSettings();
     settings.focusValue = value;
-    const bool backendFirst = controlOrder() == ControlOrder::BackendFirst;
+    const bool backendFirst = m_controls.order == ControlOrder::BackendFirst;
     if (backendFirst && backendTakes(settings))
         return;
     camera.setFocusMode(QCamera::FocusModeManual);
@@ -206,7 +206,8 @@ void CameraController::capabilityProbe(const CameraSettings &settings)
 {
     CrashHandler::coverThread();
     CameraCapabilities caps;
-    if (m_backend && m_backend->queryCameraCapabilities(settings, &caps, nullptr)) {
+    if (m_controls.backend &&
+        m_controls.backend->queryCameraCapabilities(settings, &caps, nullptr)) {
         for (const QString &line : capabilityLogLines(settings.cameraName, caps))
             qInfo().noquote() << line;
         QMetaObject::invokeMethod(

@@ -28,15 +28,18 @@ public:
                                          QString *error) = 0;
 };
 
-/// The backend of this platform, or null where there is none: the controller then uses Qt's own
-/// camera interface alone.
-std::unique_ptr<ICameraBackend> createCameraBackend();
-
 /// Whether Qt's calls for focus and exposure mode come before the backend's write, or only where
 /// the backend took nothing.
 enum class ControlOrder { QtFirst, BackendFirst };
 
-/// The order of this platform.
-ControlOrder controlOrder();
+/// How the controls of a camera are reached beside Qt's own camera interface.
+struct CameraControls
+{
+    std::shared_ptr<ICameraBackend> backend; ///< null: Qt's interface alone
+    ControlOrder order = ControlOrder::QtFirst;
+};
+
+/// That of this platform.
+CameraControls platformCameraControls();
 
 } // namespace meridax

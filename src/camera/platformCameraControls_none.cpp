@@ -1,0 +1,10 @@
+#include "camera/ICameraBackend.h"
+
+namespace meridax {
+
+CameraControls platformCameraControls()
+{
+    return {};
+}
+
+} // namespace meridax
