@@ -117,6 +117,17 @@ cv::Ptr<cv::SimpleBlobDetector> createBlobDetector(const BlobSettings &settings)
     return cv::SimpleBlobDetector::create(params);
 }
 
+cv::Mat detectionImage(const cv::Mat &grey, cv::Mat &scaled)
+{
+    if (grey.cols <= kDetectionColumns)
+        return grey;
+    const double scale = static_cast<double>(kDetectionColumns) / grey.cols;
+    if (grey.rows * scale < 1.0)
+        return {};
+    cv::resize(grey, scaled, cv::Size(), scale, scale, cv::INTER_AREA);
+    return scaled;
+}
+
 std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv::Mat &grey,
                                       cv::Mat &scaled)
 {
@@ -125,16 +136,14 @@ std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv
     // One threshold finds nothing, and the library would complain of it at every frame.
     if (params.minThreshold + params.thresholdStep >= params.maxThreshold)
         return keypoints;
-    if (grey.cols <= kDetectionColumns) {
-        detector.detect(grey, keypoints);
+    const cv::Mat image = detectionImage(grey, scaled);
+    if (image.empty() && !grey.empty())
         return keypoints;
-    }
+    detector.detect(image, keypoints);
+    if (image.cols == grey.cols)
+        return keypoints;
 
     const double scale = static_cast<double>(kDetectionColumns) / grey.cols;
-    if (grey.rows * scale < 1.0)
-        return keypoints;
-    cv::resize(grey, scaled, cv::Size(), scale, scale, cv::INTER_AREA);
-    detector.detect(scaled, keypoints);
     const float back = static_cast<float>(1.0 / scale);
     for (cv::KeyPoint &keypoint : keypoints) {
         keypoint.pt *= back;

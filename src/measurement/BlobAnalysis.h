@@ -24,9 +24,13 @@ cv::SimpleBlobDetector::Params buildDetectorParams(const BlobSettings &settings)
 /// of any size without searching beyond the grey levels there are.
 cv::Ptr<cv::SimpleBlobDetector> createBlobDetector(const BlobSettings &settings);
 
+/// What the detector searches: `grey` itself, or its reduction to 1280 columns in `scaled`, kept by
+/// the caller between frames. Empty where nothing would be left of the height.
+cv::Mat detectionImage(const cv::Mat &grey, cv::Mat &scaled);
+
 /// Finds the blobs in `grey`. An image wider than 1280 columns is searched at that width, so that
 /// the areas of the settings mean pixels of the reduced image; the keypoints are always in full
-/// resolution. `scaled` is the buffer of the reduced image, kept by the caller between frames.
+/// resolution. `scaled` is the buffer of detectionImage().
 ///
 /// A range that holds a single threshold finds nothing, since a blob has to show at two. Neither
 /// does an image so flat that it would lose its only row.
