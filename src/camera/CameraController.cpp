@@ -67,7 +67,8 @@ void CameraController::updateSettings(const AppSettings &settings)
     if (formatChanged)
         applyCameraFormat();
     if (formatChanged || controlsChanged) {
-        applyCameraControls();
+        // Another format starts the stream anew.
+        applyCameraControls(formatChanged ? ControlWrites::All : ControlWrites::Changed);
         continueFocusSweep();
     }
 }

@@ -136,8 +136,8 @@ private:
     void closeCameraAfterFailure();
     bool deviceIsGone() const;
     void applyCameraFormat();
-    void applyCameraControls();
-    bool backendTakes(const CameraSettings &settings) const;
+    void applyCameraControls(ControlWrites writes = ControlWrites::Changed);
+    bool backendTakes(const CameraSettings &settings, ControlWrites writes) const;
     void applyControlsThroughQt(QCamera &camera) const;
     void applyFocusValue(int value);
     void onActiveChanged(bool active);

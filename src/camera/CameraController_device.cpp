@@ -75,8 +75,9 @@ void CameraController::onActiveChanged(bool active)
     if (!active || !m_camera)
         return;
     m_watchdog.start();
-    // Once more, now on the running stream: some devices take no value before it runs.
-    applyCameraControls();
+    // Once more, now on the running stream: some devices take no value before it runs, others
+    // forget theirs at its start, behind the back of the driver.
+    applyCameraControls(ControlWrites::All);
     if (!std::exchange(m_capabilitiesQueried, true))
         startCapabilityProbe();
 }
@@ -148,25 +149,25 @@ void CameraController::applyCameraFormat()
         m_camera->setCameraFormat(formats[best]);
 }
 
-void CameraController::applyCameraControls()
+void CameraController::applyCameraControls(ControlWrites writes)
 {
     if (!m_camera || deviceIsGone())
         return;
     // An error that a call raises lets go of m_camera; the object itself lives on for a turn.
     QCamera &camera = *m_camera;
     const bool backendFirst = m_controls.order == ControlOrder::BackendFirst;
-    if (backendFirst && backendTakes(m_settings.camera))
+    if (backendFirst && backendTakes(m_settings.camera, writes))
         return;
     camera.setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
                                                           : QCamera::FocusModeAuto);
     camera.setExposureMode(QCamera::ExposureAuto);
-    if (backendFirst || !backendTakes(m_settings.camera))
+    if (backendFirst || !backendTakes(m_settings.camera, writes))
         applyControlsThroughQt(camera);
 }
 
-bool CameraController::backendTakes(const CameraSettings &settings) const
+bool CameraController::backendTakes(const CameraSettings &settings, ControlWrites writes) const
 {
-    return m_controls.backend && m_controls.backend->applySettings(settings, nullptr);
+    return m_controls.backend && m_controls.backend->applySettings(settings, writes, nullptr);
 }
 
 void CameraController::applyControlsThroughQt(QCamera &camera) const
@@ -188,10 +189,10 @@ void CameraController::applyFocusValue(int value)
     CameraSettings settings = sweepSettings();
     settings.focusValue = value;
     const bool backendFirst = m_controls.order == ControlOrder::BackendFirst;
-    if (backendFirst && backendTakes(settings))
+    if (backendFirst && backendTakes(settings, ControlWrites::Changed))
         return;
     camera.setFocusMode(QCamera::FocusModeManual);
-    if (backendFirst || !backendTakes(settings))
+    if (backendFirst || !backendTakes(settings, ControlWrites::Changed))
         camera.setFocusDistance(focusDistance(value, settings.focusRangeMax));
 }
 

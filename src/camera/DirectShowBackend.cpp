@@ -21,7 +21,7 @@ void tell(QString *error, const std::wstring &text)
 
 } // namespace
 
-bool DirectShowBackend::applySettings(const CameraSettings &settings, QString *error)
+bool DirectShowBackend::applySettings(const CameraSettings &settings, ControlWrites, QString *error)
 {
     const directshow::Values values{.exposure = settings.captureTimeMs,
                                     .focus = settings.focusValue,

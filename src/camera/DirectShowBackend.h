@@ -9,7 +9,9 @@ namespace meridax {
 class DirectShowBackend final : public ICameraBackend
 {
 public:
-    bool applySettings(const CameraSettings &settings, QString *error) override;
+    /// Writes all controls whatever `writes` says: nothing tells here what the camera has.
+    bool applySettings(const CameraSettings &settings, ControlWrites writes,
+                       QString *error) override;
     bool queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
                                  QString *error) override;
 };

@@ -9,6 +9,12 @@
 
 namespace meridax {
 
+/// Which controls a call brings to the camera.
+enum class ControlWrites {
+    Changed, ///< those that differ from what the driver remembers, if it is asked
+    All,     ///< each one: a camera may have forgotten what its driver remembers
+};
+
 /// The seam to platform camera control: everything that Qt's camera classes leave out.
 /// Implementations hold no state between calls, since applySettings() comes on the GUI thread and
 /// queryCameraCapabilities() on the capability thread, possibly at the same time.
@@ -18,9 +24,10 @@ public:
     virtual ~ICameraBackend() = default;
 
     /// Writes exposure, focus, brightness, contrast, saturation and gain to the device that
-    /// `settings` names. Returns true if at least one control was written. `error` may be null;
-    /// otherwise it is emptied and receives a text on failure.
-    virtual bool applySettings(const CameraSettings &settings, QString *error) = 0;
+    /// `settings` names. Returns true if at least one control has its value now. `error` may be
+    /// null; otherwise it is emptied and receives a text on failure.
+    virtual bool applySettings(const CameraSettings &settings, ControlWrites writes,
+                               QString *error) = 0;
 
     /// Resets `caps` and fills in every control the device answers for. Returns true if at least
     /// one control is supported. `error` as in applySettings().

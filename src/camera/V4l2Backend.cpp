@@ -83,28 +83,29 @@ std::optional<V4l2Device> openWanted(const CameraSettings &settings, QString *er
     return openByNameOrIndex(settings, error);
 }
 
-bool applyExposure(const V4l2Device &device, int value)
+bool applyExposure(const V4l2Device &device, int value, ControlWrites writes)
 {
     V4l2Control control(device, exposure);
     if (!control.exists())
         return false;
     const std::optional<ControlWrite> write = exposureWrite(value, control.range());
-    return write && control.apply(*write).taken;
+    return write && control.apply(*write, writes).taken;
 }
 
-bool applyFocus(const V4l2Device &device, int value)
+bool applyFocus(const V4l2Device &device, int value, ControlWrites writes)
 {
     V4l2Control control(device, focus);
-    return control.exists() && control.apply(controlWrite(value, control.range())).taken;
+    return control.exists() && control.apply(controlWrite(value, control.range()), writes).taken;
 }
 
-bool applyImageControl(const V4l2Device &device, V4l2ControlIds ids, int value)
+bool applyImageControl(const V4l2Device &device, V4l2ControlIds ids, int value,
+                       ControlWrites writes)
 {
     V4l2Control control(device, ids);
     if (!control.exists())
         return false;
     const ControlWrite write = controlWrite(value, control.range());
-    const V4l2Control::Outcome outcome = control.apply(write);
+    const V4l2Control::Outcome outcome = control.apply(write, writes);
     if (outcome.touched)
         qInfo().noquote() << QString::fromStdString(
             procAmpLogLine(ids.value, write, outcome.taken, control.readBack()));
@@ -113,17 +114,18 @@ bool applyImageControl(const V4l2Device &device, V4l2ControlIds ids, int value)
 
 } // namespace
 
-bool V4l2Backend::applySettings(const CameraSettings &settings, QString *error)
+bool V4l2Backend::applySettings(const CameraSettings &settings, ControlWrites writes,
+                                QString *error)
 {
     const std::optional<V4l2Device> device = openWanted(settings, error);
     if (!device)
         return false;
-    bool taken = applyExposure(*device, settings.captureTimeMs);
-    taken |= applyFocus(*device, settings.focusValue);
-    taken |= applyImageControl(*device, brightness, settings.brightness);
-    taken |= applyImageControl(*device, contrast, settings.contrast);
-    taken |= applyImageControl(*device, saturation, settings.saturation);
-    taken |= applyImageControl(*device, gain, settings.gain);
+    bool taken = applyExposure(*device, settings.captureTimeMs, writes);
+    taken |= applyFocus(*device, settings.focusValue, writes);
+    taken |= applyImageControl(*device, brightness, settings.brightness, writes);
+    taken |= applyImageControl(*device, contrast, settings.contrast, writes);
+    taken |= applyImageControl(*device, saturation, settings.saturation, writes);
+    taken |= applyImageControl(*device, gain, settings.gain, writes);
     return taken;
 }
 

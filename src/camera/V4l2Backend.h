@@ -11,12 +11,14 @@ namespace meridax {
 /// ignoring case, else the one at `cameraIndex`. Exposure is in the driver's unit, for USB cameras
 /// 0.1 ms.
 ///
-/// A control that has the wanted value and mode already counts as taken and is not written: reading
-/// is answered by the driver's memory, while each write is a slow transfer to the camera.
+/// With ControlWrites::Changed a control that has the wanted value and mode already counts as taken
+/// and is not written, since each write is a slow transfer to the camera. Most readings are
+/// answered by the driver's memory; only exposure time and focus are asked of a USB camera itself.
 class V4l2Backend final : public ICameraBackend
 {
 public:
-    bool applySettings(const CameraSettings &settings, QString *error) override;
+    bool applySettings(const CameraSettings &settings, ControlWrites writes,
+                       QString *error) override;
     bool queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
                                  QString *error) override;
 };

@@ -56,16 +56,16 @@ bool V4l2Control::switchTo(const Mode &mode, int value)
     return true;
 }
 
-V4l2Control::Outcome V4l2Control::apply(const ControlWrite &write)
+V4l2Control::Outcome V4l2Control::apply(const ControlWrite &write, ControlWrites writes)
 {
-    return write.automatic ? applyAutomatic() : applyValue(write.value);
+    return write.automatic ? applyAutomatic(writes) : applyValue(write.value, writes);
 }
 
-V4l2Control::Outcome V4l2Control::applyAutomatic()
+V4l2Control::Outcome V4l2Control::applyAutomatic(ControlWrites writes)
 {
     if (!m_mode)
         return {};
-    if (isAutomatic(*m_mode))
+    if (writes == ControlWrites::Changed && isAutomatic(*m_mode))
         return {.taken = true};
     return {.taken = switchTo(*m_mode, m_mode->automatic), .touched = true};
 }
@@ -77,16 +77,15 @@ bool V4l2Control::holds(int value) const
     return now && (*now == value || (!m_error && *now == snapToStep(value, m_control.range)));
 }
 
-V4l2Control::Outcome V4l2Control::applyValue(int value)
+V4l2Control::Outcome V4l2Control::applyValue(int value, ControlWrites writes)
 {
     // Devices refuse a value while the automatic mode is on, so the mode comes first.
-    bool switched = false;
-    if (m_mode && isAutomatic(*m_mode)) {
-        if (!switchTo(*m_mode, m_mode->manual))
-            return {.touched = true};
-        switched = true;
-    }
-    if (!switched && holds(value))
+    const bool automatic = m_mode && isAutomatic(*m_mode);
+    const bool switched =
+        m_mode && (automatic || writes == ControlWrites::All) && switchTo(*m_mode, m_mode->manual);
+    if (automatic && !switched)
+        return {.touched = true};
+    if (!switched && writes == ControlWrites::Changed && holds(value))
         return {.taken = true};
     // Taken over by the automatic mode of another control: a write would be refused.
     if (m_control.isInactive)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/ControlRules.h"
+#include "camera/ICameraBackend.h"
 #include "camera/V4l2Device.h"
 
 #include <cerrno>
@@ -32,8 +33,8 @@ public:
         bool touched = false; ///< something was written to the device
     };
 
-    /// Brings the control to value and mode of `write`, writing only what differs.
-    Outcome apply(const ControlWrite &write);
+    /// Brings the control to value and mode of `write`.
+    Outcome apply(const ControlWrite &write, ControlWrites writes);
     ControlReadBack readBack() const;
 
 private:
@@ -48,8 +49,8 @@ private:
     bool isAutomatic(const Mode &mode) const;
     bool switchTo(const Mode &mode, int value);
 
-    Outcome applyAutomatic();
-    Outcome applyValue(int value);
+    Outcome applyAutomatic(ControlWrites writes);
+    Outcome applyValue(int value, ControlWrites writes);
     bool holds(int value) const;
 
     const V4l2Device &m_device;
