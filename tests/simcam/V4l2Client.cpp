@@ -22,6 +22,19 @@ V4l2Client::~V4l2Client()
         ::close(m_fd);
 }
 
+void V4l2Client::markBuffers(char byte)
+{
+    for (const Buffer &buffer : std::as_const(m_buffers))
+        *static_cast<char *>(buffer.memory) = byte;
+}
+
+bool V4l2Client::buffersAreMarked(char byte) const
+{
+    return std::all_of(m_buffers.begin(), m_buffers.end(), [byte](const Buffer &buffer) {
+        return *static_cast<const char *>(buffer.memory) == byte;
+    });
+}
+
 int V4l2Client::request(unsigned long request, void *argument) const
 {
     return ::ioctl(m_fd, request, argument) < 0 ? errno : 0;

@@ -24,7 +24,6 @@ public:
     Q_DISABLE_COPY_MOVE(V4l2Client)
 
     int openError() const { return m_openError; }
-    int descriptor() const { return m_fd; }
 
     /// errno of the ioctl, 0 for success.
     int request(unsigned long request, void *argument) const;
@@ -36,6 +35,10 @@ public:
     /// Requests `count` buffers of V4L2_MEMORY_* kind `memory`, queues that many and starts.
     int start(quint32 memory = V4L2_MEMORY_MMAP, unsigned count = 2);
     void stop();
+
+    /// Writes the first byte of each user pointer, and tells whether it is still there.
+    void markBuffers(char byte);
+    bool buffersAreMarked(char byte) const;
 
     /// Waits at most `timeoutMs` for a frame, takes it and queues its buffer again. The error is
     /// ETIMEDOUT if none came.

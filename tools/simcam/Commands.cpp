@@ -74,7 +74,7 @@ void printEverything(const State &state, const Printer &print)
     printFormat(state, print);
     for (const Control &control : controls())
         if (!control.isClass() && isOffered(state, control))
-            print(controlKey(control), std::to_string(state.control[slotOf(control)]));
+            print(controlKey(control), std::to_string(state.held[slotOf(control)]));
     print("play-folder", state.playGeneration ? state.playFolder : "none");
     print("streaming-process", std::to_string(state.owner));
     print("frames", std::to_string(state.frames));

@@ -24,8 +24,10 @@ constexpr std::uint32_t kClass = V4L2_CTRL_TYPE_CTRL_CLASS;
 
 // Kinds of cameras by the values of the parameter `controls`.
 constexpr unsigned kSimple = 1U << 1;
-constexpr unsigned kCommon = 1U << 2;
+constexpr unsigned kFocusFromZero = 1U << 2;
 constexpr unsigned kOdd = 1U << 3;
+constexpr unsigned kFocusFromOne = 1U << 4;
+constexpr unsigned kCommon = kFocusFromZero | kFocusFromOne;
 
 /// `control` with an automatic mode that is ruled by `master`.
 constexpr Control ruledBy(std::uint32_t master, int manual, Control control)
@@ -86,21 +88,24 @@ constexpr Control kControls[] = {
                                 5000, kNominalExposure})),
     on(kCommon,
        {V4L2_CID_EXPOSURE_AUTO_PRIORITY, kBoolean, "Exposure, Dynamic Framerate", 0, 1, 0}),
-    on(kCommon | kOdd,
+    on(kFocusFromZero | kOdd,
        ruledBy(V4L2_CID_FOCUS_AUTO, 0,
                {V4L2_CID_FOCUS_ABSOLUTE, kInteger, "Focus, Absolute", 0, kFocusMax, 0})),
+    on(kFocusFromOne,
+       ruledBy(V4L2_CID_FOCUS_AUTO, 0,
+               {V4L2_CID_FOCUS_ABSOLUTE, kInteger, "Focus, Absolute", 1, kFocusMax, 1})),
     on(kCommon | kOdd, {V4L2_CID_FOCUS_AUTO, kBoolean, "Focus, Automatic Continuous", 0, 1, 1}),
 };
 static_assert(std::size(kControls) <= State::kMaxControls);
 
-/// Value of a control; of one that the camera does not have its default.
+/// What the camera holds of a control; of one that it does not have the default.
 int valueOf(const State &state, std::uint32_t id)
 {
     const Control *control = findControl(state, id);
     if (!control)
         control = std::find_if(std::begin(kControls), std::end(kControls),
                                [&](const Control &c) { return c.id == id; });
-    return state.control[slotOf(*control)];
+    return state.held[slotOf(*control)];
 }
 
 bool isManualExposure(const State &state)
@@ -141,7 +146,8 @@ std::uint32_t controlFlags(const State &state, const Control &control)
     for (const Control &other : kControls)
         if (other.master == control.id && isOffered(state, other))
             flags |= V4L2_CTRL_FLAG_UPDATE;
-    if (control.master && valueOf(state, control.master) != control.masterManual)
+    if (control.master &&
+        state.control[slotOf(*findControl(state, control.master))] != control.masterManual)
         flags |= V4L2_CTRL_FLAG_INACTIVE;
     return flags;
 }
@@ -189,12 +195,19 @@ Picture pictureOf(const State &state)
     return p;
 }
 
+void forgetControls(State &state)
+{
+    for (const Control &control : kControls)
+        state.held[slotOf(control)] = control.defaultValue;
+}
+
 double exposureTime(const State &state)
 {
     if (!isManualExposure(state))
         return 0;
     const double wanted = valueOf(state, V4L2_CID_EXPOSURE_ABSOLUTE) * 1e-4;
-    const bool maySlowDown = valueOf(state, V4L2_CID_EXPOSURE_AUTO_PRIORITY) != 0;
+    const bool maySlowDown =
+        state.isOn(Param::LongExposures) || valueOf(state, V4L2_CID_EXPOSURE_AUTO_PRIORITY) != 0;
     return maySlowDown ? wanted : std::min(wanted, kNominalExposure * 1e-4);
 }
 

@@ -63,6 +63,9 @@ struct Picture
 };
 Picture pictureOf(const State &state);
 
+/// The camera forgets what was set in it. What the driver remembers stays.
+void forgetControls(State &state);
+
 /// Shortest time between two frames that the exposure leaves [s].
 double exposureTime(const State &state);
 

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -20,6 +21,11 @@ Device::Device(std::string node, State *state, ino_t inode)
     , m_state(*state)
     , m_inode(inode)
 {
+}
+
+Device::~Device()
+{
+    ::munmap(&m_state, sizeof m_state);
 }
 
 int Device::nodeNumber() const

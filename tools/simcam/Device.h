@@ -41,7 +41,9 @@ public:
     using Lock = std::unique_lock<std::mutex>;
     using Clock = std::chrono::steady_clock; ///< is CLOCK_MONOTONIC, the clock of V4L2 time stamps
 
+    /// Takes over the mapping of `state`.
     Device(std::string node, State *state, ino_t inode);
+    ~Device();
 
     Lock lock() { return Lock(m_mutex); }
     State &state() const { return m_state; }

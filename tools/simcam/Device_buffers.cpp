@@ -12,7 +12,6 @@ namespace {
 
 constexpr unsigned kMinBuffers = 2;
 constexpr unsigned kMaxBuffers = 32;
-constexpr size_t kPage = 4096;
 
 } // namespace
 
@@ -44,7 +43,9 @@ int Device::requestBuffers(Handle *handle, v4l2_requestbuffers &request)
 int Device::allocate(Handle *handle, unsigned count, std::uint32_t memory)
 {
     const std::uint32_t length = bufferLength(m_state.width, m_state.height);
-    m_slot = (length + kPage - 1) & ~(kPage - 1);
+    // The program maps each buffer by itself, so each begins with a page.
+    const auto page = static_cast<size_t>(::sysconf(_SC_PAGESIZE));
+    m_slot = (length + page - 1) / page * page;
     if (memory == V4L2_MEMORY_MMAP) {
         m_memoryFd = memfd_create("simcam", MFD_CLOEXEC);
         if (m_memoryFd < 0 || ::ftruncate(m_memoryFd, off_t(m_slot * count)) < 0)

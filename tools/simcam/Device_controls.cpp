@@ -150,6 +150,7 @@ void Device::setControl(const Handle *from, const Control &control, std::int32_t
 {
     ++m_state.controlWrites;
     const std::int32_t old = m_state.control[slotOf(control)].exchange(value);
+    m_state.held[slotOf(control)] = value;
     log("%s = %d (was %d)", control.name, value, old);
     if (old == value)
         return;

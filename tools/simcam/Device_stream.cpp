@@ -28,6 +28,10 @@ int Device::streamOn(Handle *handle)
         return -EBUSY;
     if (m_isStreaming)
         return 0;
+    if (const int error = static_cast<int>(m_state.get(Param::StreamonErrno)))
+        return -error;
+    if (m_state.isOn(Param::Forgets))
+        forgetControls(m_state);
     m_isStreaming = true;
     m_generator = std::thread([this] { generate(); });
     return 0;
@@ -113,20 +117,25 @@ void Device::deliver(Lock &lock, std::uint32_t sequence, Clock::time_point due)
     std::uint8_t *memory = m_memory == V4L2_MEMORY_USERPTR
                                ? reinterpret_cast<std::uint8_t *>(buffer.info.m.userptr)
                                : m_mapping + m_slot * index;
-    const std::span<std::uint8_t> out(memory, buffer.info.length);
     const bool isFaulty = m_state.isOn(Param::ErrorFrames);
 
-    lock.unlock(); // STREAMOFF waits for this thread, so the buffer stays
+    lock.unlock();
     const auto start = Clock::now();
-    const std::size_t used = isFaulty ? 0 : m_frames.produce(m_state, m_state.frames, out);
+    std::span<const std::uint8_t> frame;
+    if (!isFaulty)
+        frame = m_frames.produce(m_state, m_state.frames);
     m_state.renderUs = static_cast<std::uint32_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start).count());
     lock.lock();
 
-    if (m_quit) {
+    // A program that has been told of the end of stream or device may have freed its buffers since.
+    // It is told under the lock, so here they are still there.
+    if (m_quit || isGone()) {
         buffer.stage = Buffer::Queued;
         return;
     }
+    const std::size_t used = std::min<std::size_t>(frame.size(), buffer.info.length);
+    std::copy_n(frame.begin(), used, memory);
     buffer.info.bytesused = static_cast<std::uint32_t>(used);
     buffer.info.sequence = sequence;
     buffer.info.field = V4L2_FIELD_NONE;

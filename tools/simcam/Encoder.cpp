@@ -60,10 +60,9 @@ void encodeJpeg(const Planes &planes, std::vector<std::uint8_t> &out)
     out.resize(length);
 }
 
-std::size_t packYuyv(const Planes &planes, std::span<std::uint8_t> out)
+void packYuyv(const Planes &planes, std::vector<std::uint8_t> &out)
 {
-    if (out.size() < 2 * planes.y.size())
-        return 0;
+    out.resize(2 * planes.y.size());
     const std::uint8_t *y = planes.y.data();
     const std::uint8_t *u = planes.u.data();
     const std::uint8_t *v = planes.v.data();
@@ -81,7 +80,6 @@ std::size_t packYuyv(const Planes &planes, std::span<std::uint8_t> out)
         p[4 * i + 2] = luma(y[2 * i + 1]);
         p[4 * i + 3] = chroma(v[i]);
     }
-    return 4 * pairs;
 }
 
 } // namespace meridax::simcam

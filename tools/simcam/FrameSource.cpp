@@ -1,6 +1,5 @@
 #include "FrameSource.h"
 
-#include <algorithm>
 #include <linux/videodev2.h>
 
 namespace meridax::simcam {
@@ -58,7 +57,22 @@ const std::vector<std::uint8_t> &FrameSource::jpegOf(const Content &content, std
     return m_encoded[frame % wanted];
 }
 
-std::size_t FrameSource::produce(State &state, std::uint32_t frame, std::span<std::uint8_t> out)
+/// `jpeg` with what `state` says is wrong with it.
+std::span<const std::uint8_t> FrameSource::damaged(const State &state,
+                                                   const std::vector<std::uint8_t> &jpeg)
+{
+    constexpr std::ptrdiff_t kEndMarker = 2; // bytes
+    const auto stray = static_cast<std::size_t>(state.get(Param::StrayBytes));
+    if (stray == 0 && !state.isOn(Param::Truncate))
+        return jpeg;
+    m_bytes = jpeg;
+    m_bytes.insert(m_bytes.end() - kEndMarker, stray, 0);
+    if (state.isOn(Param::Truncate))
+        m_bytes.resize(m_bytes.size() / 2);
+    return m_bytes;
+}
+
+std::span<const std::uint8_t> FrameSource::produce(State &state, std::uint32_t frame)
 {
     const FrameSize size{state.width, state.height};
     if (!state.isOn(Param::Freeze)) {
@@ -73,15 +87,10 @@ std::size_t FrameSource::produce(State &state, std::uint32_t frame, std::span<st
     state.shownX = static_cast<float>(content.scene.mark[0].x);
     state.shownY = static_cast<float>(content.scene.mark[0].y);
 
-    if (content.pixelFormat == V4L2_PIX_FMT_YUYV)
-        return packYuyv(pictureOf(content, number), out);
-    const auto &jpeg = jpegOf(content, number);
-    const std::size_t length = std::min(jpeg.size(), out.size());
-    std::copy_n(jpeg.begin(), length, out.begin());
-    if (!state.isOn(Param::Truncate))
-        return length;
-    std::fill_n(out.begin() + std::ptrdiff_t(length / 2), length - length / 2, 0);
-    return length / 2;
+    if (content.pixelFormat != V4L2_PIX_FMT_YUYV)
+        return damaged(state, jpegOf(content, number));
+    packYuyv(pictureOf(content, number), m_bytes);
+    return m_bytes;
 }
 
 } // namespace meridax::simcam

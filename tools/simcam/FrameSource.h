@@ -18,9 +18,9 @@ namespace meridax::simcam {
 class FrameSource
 {
 public:
-    /// Writes a frame in the format of `state` into `out`. Returns the bytes used. The noise
-    /// depends on the number `frame` alone.
-    std::size_t produce(State &state, std::uint32_t frame, std::span<std::uint8_t> out);
+    /// A frame in the format of `state`, valid until the next call. The noise depends on the number
+    /// `frame` alone.
+    std::span<const std::uint8_t> produce(State &state, std::uint32_t frame);
 
 private:
     /// What the encoded picture depends on, apart from the noise.
@@ -38,11 +38,14 @@ private:
     Content contentOf(const State &state, FrameSize size, std::uint32_t frame);
     const Planes &pictureOf(const Content &content, std::uint32_t seed);
     const std::vector<std::uint8_t> &jpegOf(const Content &content, std::uint32_t frame);
+    std::span<const std::uint8_t> damaged(const State &state,
+                                          const std::vector<std::uint8_t> &jpeg);
 
     Scene m_scene;
     Playback m_playback;
     PixelNoise m_noise;
     Planes m_noisy;
+    std::vector<std::uint8_t> m_bytes; ///< of a frame that is not sent as it was encoded
 
     Content m_encodedContent;
     std::vector<std::vector<std::uint8_t>> m_encoded;

@@ -2,10 +2,13 @@
 
 #include "Answers.h"
 #include "Device.h"
+#include "Hang.h"
 #include "Log.h"
+#include "Registry.h"
 
 #include <cerrno>
 #include <cstring>
+#include <optional>
 
 namespace meridax::simcam {
 
@@ -148,21 +151,22 @@ int answerCapture(Device &device, Handle *handle, unsigned request, void *p, Dev
     }
 }
 
-/// True for the requests that concern the controls.
-bool concernsControls(unsigned request)
+/// For the requests that concern the controls, what makes them hang.
+std::optional<Param> hangOf(unsigned request)
 {
     switch (request) {
     case VIDIOC_QUERY_EXT_CTRL:
     case VIDIOC_QUERYCTRL:
     case VIDIOC_QUERYMENU:
+        return Param::QueryHang;
     case VIDIOC_G_CTRL:
     case VIDIOC_S_CTRL:
     case VIDIOC_G_EXT_CTRLS:
     case VIDIOC_S_EXT_CTRLS:
     case VIDIOC_TRY_EXT_CTRLS:
-        return true;
+        return Param::ControlHang;
     default:
-        return false;
+        return {};
     }
 }
 
@@ -204,12 +208,19 @@ int answerIoctl(Handle *handle, unsigned request, void *argument)
 {
     if (!isReadable(argument, _IOC_SIZE(request)))
         return isKnown(request) ? -EFAULT : -ENOTTY;
-    Device &device = *handle->device;
+    const auto kept = handle->device; // another thread may close the descriptor meanwhile
+    Device &device = *kept;
+    if (const auto param = hangOf(request); param && !device.isGone()) {
+        const int fd = handle->fd;
+        ++device.state().controlCalls;
+        if (const int error = hang(device.state(), *param))
+            return error;
+        if (handleOf(fd) != handle)
+            return -EBADF;
+    }
     auto lock = device.lock();
     if (device.isGone())
         return -ENODEV;
-    if (concernsControls(request))
-        ++device.state().controlCalls;
     const int result = device.state().kind == State::Metadata
                            ? answerMetadata(device, request, argument)
                            : answerCapture(device, handle, request, argument, lock);

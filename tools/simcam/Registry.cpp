@@ -1,5 +1,6 @@
 #include "Registry.h"
 
+#include "Hang.h"
 #include "Log.h"
 #include "RawCalls.h"
 
@@ -90,12 +91,16 @@ Handle *handleOf(int fd)
 
 int openNode(const char *node, int flags)
 {
-    const std::lock_guard guard(devices().mutex);
+    std::unique_lock guard(devices().mutex);
     if (!isPlugged(node))
         return fail(ENOENT);
     const auto device = deviceAt(node);
     if (!device || device->isGone())
         return fail(ENODEV);
+    guard.unlock();
+    if (const int error = hang(device->state(), Param::OpenHang))
+        return fail(-error);
+    guard.lock();
     if (const int error = static_cast<int>(device->state().get(Param::OpenErrno)))
         return fail(error);
     const int fd = ::eventfd(0, (flags & O_NONBLOCK ? EFD_NONBLOCK : 0) |

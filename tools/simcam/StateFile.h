@@ -14,7 +14,7 @@ namespace meridax::simcam {
 /// locked behind; `name` and `playFolder` change only while nobody reads them (see Commands.cpp).
 struct State
 {
-    static constexpr std::uint32_t kMagic = 0x53494d34;
+    static constexpr std::uint32_t kMagic = 0x53494d35;
     static constexpr unsigned kMaxControls = 32;
     enum Kind : std::uint32_t { Capture, Metadata };
 
@@ -30,9 +30,10 @@ struct State
 
     // The device as all its openers see it.
     std::atomic<std::uint32_t> width, height, pixelFormat, framesPerSecond;
-    std::atomic<std::int32_t> owner; ///< process that holds the buffers, 0 none
-    std::atomic<std::int32_t> control[kMaxControls];
-    std::atomic<std::uint32_t> isRefusing; ///< the next value of a control is refused
+    std::atomic<std::int32_t> owner;                 ///< process that holds the buffers, 0 none
+    std::atomic<std::int32_t> control[kMaxControls]; ///< in the driver's memory
+    std::atomic<std::int32_t> held[kMaxControls];    ///< in the camera
+    std::atomic<std::uint32_t> isRefusing;           ///< the next value of a control is refused
 
     // Statistics, written by the library.
     std::atomic<std::uint32_t> frames, dropped, renderUs, opens;
