@@ -138,6 +138,14 @@ unsigned slotOf(const Control &control)
     return static_cast<unsigned>(&control - kControls);
 }
 
+void setDefaults(State &state)
+{
+    for (std::size_t i = 0; i < kParamCount; ++i)
+        state.param[i] = parameters()[i].defaultValue;
+    for (const Control &control : kControls)
+        state.control[slotOf(control)] = state.held[slotOf(control)] = control.defaultValue;
+}
+
 std::uint32_t controlFlags(const State &state, const Control &control)
 {
     std::uint32_t flags = control.flags;

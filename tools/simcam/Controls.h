@@ -38,6 +38,9 @@ const Control *findControl(const State &state, std::uint32_t id);
 /// Slot of `control` in State::control.
 unsigned slotOf(const Control &control);
 
+/// Gives all parameters and controls their values of a new camera.
+void setDefaults(State &state);
+
 /// V4L2_CTRL_FLAG_* of the control in the present state.
 std::uint32_t controlFlags(const State &state, const Control &control);
 

@@ -33,8 +33,9 @@ const Planes &FrameSource::pictureOf(const Content &content, std::uint32_t seed)
 {
     if (content.playGeneration)
         return m_playback.frame(content.playIndex, content.size);
-    const Planes &clean = m_scene.draw(content.scene);
-    if (content.scene.noise <= 0)
+    const Planes &clean =
+        content.scene.isReal ? m_realScene.draw(content.scene) : m_scene.draw(content.scene);
+    if (content.scene.noise.isNone())
         return clean;
     m_noisy = clean;
     m_noise.add(m_noisy.y, clean.size.width, content.scene.noise, seed);
@@ -47,7 +48,7 @@ const std::vector<std::uint8_t> &FrameSource::jpegOf(const Content &content, std
         m_encodedContent = content;
         m_encoded.clear();
     }
-    const bool hasNoise = !content.playGeneration && content.scene.noise > 0;
+    const bool hasNoise = !content.playGeneration && !content.scene.noise.isNone();
     const std::size_t wanted = hasNoise && !m_frozen ? variants(content.size) : 1;
     if (m_encoded.size() < wanted) {
         const Planes &picture = pictureOf(content, frame);

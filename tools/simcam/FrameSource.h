@@ -3,6 +3,7 @@
 #include "Encoder.h"
 #include "PixelNoise.h"
 #include "Playback.h"
+#include "RealScene.h"
 #include "Scene.h"
 
 #include <optional>
@@ -42,6 +43,7 @@ private:
                                           const std::vector<std::uint8_t> &jpeg);
 
     Scene m_scene;
+    RealScene m_realScene;
     Playback m_playback;
     PixelNoise m_noise;
     Planes m_noisy;

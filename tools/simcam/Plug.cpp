@@ -60,10 +60,7 @@ State *createState(const std::string &path, State::Kind kind)
         failWith(path);
     auto *state = static_cast<State *>(memory);
     state->kind = kind;
-    for (std::size_t i = 0; i < kParamCount; ++i)
-        state->param[i] = parameters()[i].defaultValue;
-    for (const Control &control : controls())
-        state->control[slotOf(control)] = state->held[slotOf(control)] = control.defaultValue;
+    setDefaults(*state);
     const Mode &mode = modes().front();
     state->pixelFormat = mode.pixelFormat;
     state->width = mode.width;

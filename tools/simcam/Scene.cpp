@@ -1,5 +1,7 @@
 #include "Scene.h"
 
+#include "Tones.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -12,19 +14,13 @@ constexpr double kLensBlur = 0.7;           // of the sharp picture, sigma [px a
 constexpr double kPixelVariance = 1 / 12.0; // of a square pixel of side 1
 constexpr double kSharpenShare = 0.35;      // per step of the sharpness control
 constexpr double kSoftenBlur = 0.4;         // per step of the sharpness control [px at 720]
-constexpr double kBrassU = -16;             // colour of the metal
-constexpr double kBrassV = 12;
 
 /// Grey levels of the finished picture over those of the lit scene.
 std::array<float, 257> toneCurve(const Picture &p)
 {
     std::array<float, 257> tones{};
-    for (std::size_t i = 0; i < tones.size(); ++i) {
-        const double light = std::min(255.0, double(i) * p.exposure * p.gain);
-        const double bent = p.gamma == 1 ? light : 255 * std::pow(light / 255, 1 / p.gamma);
-        tones[i] = static_cast<float>(
-            std::clamp((bent - 128) * p.contrast + 128 + p.brightness, 0.0, 255.0));
-    }
+    for (std::size_t i = 0; i < tones.size(); ++i)
+        tones[i] = static_cast<float>(tone(p, double(i)));
     return tones;
 }
 
@@ -56,33 +52,6 @@ double coverage(double d, double radius, double sigma)
 }
 
 } // namespace
-
-SceneInputs sceneInputs(const State &state, FrameSize size, std::uint32_t frame,
-                        std::uint32_t nowMs)
-{
-    SceneInputs in;
-    const Turn turn = turnAt(state, nowMs);
-    in.markRadius = double(state.get(Param::MarkRadius)) * size.height;
-    in.markGrey = state.get(Param::MarkGrey);
-    in.picture = pictureOf(state);
-    in.noise = double(state.get(Param::PixelNoise)) * in.picture.gain;
-
-    double form = 0;
-    for (int k = kFirstFormOrder; k <= kLastFormOrder; ++k)
-        form += std::fabs(
-            double(state.get(static_cast<Param>(int(Param::Form2) + k - kFirstFormOrder))));
-    const double jitter = 3 * double(state.get(Param::DwellNoise) + state.get(Param::FrameNoise));
-    in.ground = {size, centerOf(state, size), double(state.get(Param::Radius)) * size.height,
-                 1.6 * in.markRadius + (form + jitter + 10) * size.scale()};
-
-    in.marks = static_cast<unsigned>(state.get(Param::Marks));
-    const Point noise = positionNoise(state, size, turn.dwell, frame);
-    for (unsigned i = 0; i < in.marks; ++i) {
-        const Point p = markPosition(state, size, turn.angle + i * kSecondMark);
-        in.mark[i] = {p.x + noise.x, p.y + noise.y};
-    }
-    return in;
-}
 
 const Planes &Scene::draw(const SceneInputs &inputs)
 {
@@ -120,24 +89,13 @@ void Scene::drawGround(const Picture &picture)
     }
     m_planes.y = m_clean;
 
-    const double hue = picture.hue * std::numbers::pi / 180;
-    const double brassU = kBrassU * std::cos(hue) - kBrassV * std::sin(hue);
-    const double brassV = kBrassU * std::sin(hue) + kBrassV * std::cos(hue);
-    std::array<std::uint8_t, 256> us{};
-    std::array<std::uint8_t, 256> vs{};
-    for (std::size_t i = 0; i < us.size(); ++i) {
-        const double share = double(i) / 255;
-        const double u = share * brassU - picture.warmth * 20;
-        const double v = share * brassV + picture.warmth * 12;
-        us[i] = static_cast<std::uint8_t>(
-            std::clamp(std::lround(128 + picture.saturation * u), 0L, 255L));
-        vs[i] = static_cast<std::uint8_t>(
-            std::clamp(std::lround(128 + picture.saturation * v), 0L, 255L));
-    }
+    std::array<Chroma, 256> colours{};
+    for (std::size_t i = 0; i < colours.size(); ++i)
+        colours[i] = chroma(picture, double(i) / 255);
     const auto &tint = m_ground.tint();
     for (std::size_t i = 0; i < tint.size(); ++i) {
-        m_planes.u[i] = us[tint[i]];
-        m_planes.v[i] = vs[tint[i]];
+        m_planes.u[i] = colours[tint[i]].u;
+        m_planes.v[i] = colours[tint[i]].v;
     }
 }
 

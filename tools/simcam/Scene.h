@@ -1,34 +1,15 @@
 #pragma once
 
-#include "Controls.h"
-#include "Ground.h"
 #include "Planes.h"
+#include "SceneInputs.h"
 
 #include <array>
 #include <vector>
 
 namespace meridax::simcam {
 
-/// Everything that a frame of the scene depends on, taken from the state at one moment.
-struct SceneInputs
-{
-    GroundLayout ground{};
-    Picture picture{};
-    unsigned marks = 0;
-    std::array<Point, 2> mark; ///< [px]
-    double markRadius = 0;     ///< [px]
-    double markGrey = 0;
-    double noise = 0; ///< sigma of the pixel noise, gain included [grey levels]
-
-    bool operator==(const SceneInputs &) const = default;
-};
-
-/// Takes the inputs of frame `frame` at time `nowMs` from the state.
-SceneInputs sceneInputs(const State &state, FrameSize size, std::uint32_t frame,
-                        std::uint32_t nowMs);
-
-/// Draws the scene. Keeps the ground between frames, so that a frame in which only the mark has
-/// moved costs two small windows.
+/// Draws the lit end of a sleeve. Keeps the ground between frames, so that a frame in which only
+/// the mark has moved costs two small windows.
 class Scene
 {
 public:
