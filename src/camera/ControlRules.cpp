@@ -10,12 +10,6 @@ namespace {
 constexpr int kFlagAutomatic = 1;
 constexpr int kFlagManual = 2;
 
-int to32Bits(std::int64_t value)
-{
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
-
 int clampToRange(int value, const ControlRange &range)
 {
     // A device that reports its ends the wrong way round must not end in undefined behaviour.
@@ -35,6 +29,12 @@ int firstFitting(const std::vector<DeviceNames> &devices, Fits fits)
 }
 
 } // namespace
+
+int to32Bits(std::int64_t value)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
 
 ControlRange supportedRange(std::int64_t min, std::int64_t max, std::int64_t step,
                             std::int64_t defaultValue, bool canAuto)

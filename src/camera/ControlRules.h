@@ -11,6 +11,9 @@
 /// control. Free of Qt and of any platform, so that a backend only makes its platform's calls.
 namespace meridax {
 
+/// `value` as far as 32 bits reach.
+int to32Bits(std::int64_t value);
+
 /// The range that a device tells for a control: what lies beyond 32 bits is cut to them, and a step
 /// below 1 becomes 1.
 ControlRange supportedRange(std::int64_t min, std::int64_t max, std::int64_t step,

@@ -5,7 +5,7 @@
 #include <QDir>
 
 #include <cerrno>
-#include <cstring>
+#include <system_error>
 
 namespace meridax {
 
@@ -37,8 +37,9 @@ std::optional<V4l2Device> opened(V4l2Device device, const QString &path, QString
 {
     if (!device.error())
         return device;
-    tell(error, QStringLiteral("V4L2-Kamera %1 konnte nicht geöffnet werden: %2")
-                    .arg(path, QString::fromLocal8Bit(strerrordesc_np(device.error()))));
+    tell(error,
+         QStringLiteral("V4L2-Kamera %1 konnte nicht geöffnet werden: %2")
+             .arg(path, QString::fromStdString(std::generic_category().message(device.error()))));
     return {};
 }
 
@@ -126,6 +127,9 @@ bool V4l2Backend::applySettings(const CameraSettings &settings, ControlWrites wr
     taken |= applyImageControl(*device, contrast, settings.contrast, writes);
     taken |= applyImageControl(*device, saturation, settings.saturation, writes);
     taken |= applyImageControl(*device, gain, settings.gain, writes);
+    if (!taken)
+        tell(error,
+             QStringLiteral("V4L2-Kamera %1 hat keinen Wert angenommen.").arg(device->name()));
     return taken;
 }
 
@@ -152,6 +156,8 @@ bool V4l2Backend::queryCameraCapabilities(const CameraSettings &settings, Camera
     read(caps->gain, gain);
     read(caps->gamma, gammaCurve);
     read(caps->whiteBalance, whiteBalance);
+    if (!any)
+        tell(error, QStringLiteral("V4L2-Kamera %1 nennt keine Bereiche.").arg(device->name()));
     return any;
 }
 

@@ -1,6 +1,25 @@
 #include "camera/V4l2Control.h"
 
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
 namespace meridax {
+
+namespace {
+
+// A lens that the automatic focus still drives, or a sensor in the middle of a frame, refuses
+// values for some frames after the mode has changed.
+constexpr int kSettlingTries = 6;
+constexpr std::chrono::milliseconds kSettlingPause{15};
+
+/// True if the device may well take the same value a moment later.
+bool mayPass(int error)
+{
+    return error == EACCES || error == EBUSY;
+}
+
+} // namespace
 
 V4l2Control::V4l2Control(const V4l2Device &device, V4l2ControlIds ids)
     : m_device(device)
@@ -19,13 +38,13 @@ std::optional<V4l2Control::Mode> V4l2Control::queryMode(const V4l2Device &device
         return mode;
     // USB cameras have no full automatic exposure: theirs keeps the aperture and moves the time.
     mode.manual = V4L2_EXPOSURE_MANUAL;
-    for (const int automatic : {V4L2_EXPOSURE_APERTURE_PRIORITY, V4L2_EXPOSURE_AUTO}) {
-        if (device.hasMenuEntry(id, static_cast<std::uint32_t>(automatic))) {
-            mode.automatic = automatic;
-            return mode;
-        }
-    }
-    return {};
+    mode.automatic = {V4L2_EXPOSURE_APERTURE_PRIORITY, V4L2_EXPOSURE_AUTO};
+    std::erase_if(mode.automatic, [&](int automatic) {
+        return !device.hasMenuEntry(id, static_cast<std::uint32_t>(automatic));
+    });
+    if (mode.automatic.empty())
+        return {};
+    return mode;
 }
 
 std::optional<ControlRange> V4l2Control::range() const
@@ -40,11 +59,13 @@ std::optional<ControlRange> V4l2Control::range() const
 bool V4l2Control::isAutomatic(const Mode &mode) const
 {
     const std::optional<int> now = m_device.value(mode.control);
-    if (!now)
-        return false;
-    if (mode.control.id != V4L2_CID_EXPOSURE_AUTO)
-        return *now != 0;
-    return *now == V4L2_EXPOSURE_AUTO || *now == V4L2_EXPOSURE_APERTURE_PRIORITY;
+    return now && std::ranges::find(mode.automatic, *now) != mode.automatic.end();
+}
+
+bool V4l2Control::isManual(const Mode &mode) const
+{
+    // Neither this nor automatic: an exposure with priority of the shutter, which takes no value.
+    return m_device.value(mode.control).value_or(mode.manual) == mode.manual;
 }
 
 bool V4l2Control::switchTo(const Mode &mode, int value)
@@ -67,7 +88,10 @@ V4l2Control::Outcome V4l2Control::applyAutomatic(ControlWrites writes)
         return {};
     if (writes == ControlWrites::Changed && isAutomatic(*m_mode))
         return {.taken = true};
-    return {.taken = switchTo(*m_mode, m_mode->automatic), .touched = true};
+    // Menus may name modes that are refused.
+    const bool taken = std::ranges::any_of(
+        m_mode->automatic, [this](int automatic) { return switchTo(*m_mode, automatic); });
+    return {.taken = taken, .touched = true};
 }
 
 bool V4l2Control::holds(int value) const
@@ -80,25 +104,30 @@ bool V4l2Control::holds(int value) const
 V4l2Control::Outcome V4l2Control::applyValue(int value, ControlWrites writes)
 {
     // Devices refuse a value while the automatic mode is on, so the mode comes first.
-    const bool automatic = m_mode && isAutomatic(*m_mode);
+    const bool manual = !m_mode || isManual(*m_mode);
     const bool switched =
-        m_mode && (automatic || writes == ControlWrites::All) && switchTo(*m_mode, m_mode->manual);
-    if (automatic && !switched)
+        m_mode && (!manual || writes == ControlWrites::All) && switchTo(*m_mode, m_mode->manual);
+    if (!manual && !switched)
         return {.touched = true};
     if (!switched && writes == ControlWrites::Changed && holds(value))
         return {.taken = true};
     // Taken over by the automatic mode of another control: a write would be refused.
-    if (m_control.isInactive)
-        return {.touched = switched};
+    if (m_control.isInactive && !switched)
+        return {};
+    return {.taken = setValue(value, switched) == 0, .touched = true};
+}
 
-    int error = m_device.setValue(m_control, value);
-    if (error && m_mode) {
-        // Some devices refuse the first value after a switch, and another program may have
-        // switched back meanwhile.
+int V4l2Control::setValue(int value, bool settling)
+{
+    for (int tries = m_mode && settling ? kSettlingTries : 2;; --tries) {
+        const int error = m_control.isInactive ? EACCES : m_device.setValue(m_control, value);
+        if (!mayPass(error) || !m_mode || tries == 1)
+            return error;
+        if (settling)
+            std::this_thread::sleep_for(kSettlingPause);
+        // Another program may have switched back meanwhile.
         switchTo(*m_mode, m_mode->manual);
-        error = m_device.setValue(m_control, value);
     }
-    return {.taken = error == 0, .touched = true};
 }
 
 ControlReadBack V4l2Control::readBack() const

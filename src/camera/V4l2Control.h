@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <optional>
+#include <vector>
 
 namespace meridax {
 
@@ -38,20 +39,23 @@ public:
     ControlReadBack readBack() const;
 
 private:
-    /// The control that switches the mode, and the values of its two modes.
+    /// The control that switches the mode, the value of it that leaves the control to the user,
+    /// and those that may be its automatic mode, the best one first.
     struct Mode
     {
         V4l2Device::Control control;
         int manual = 0;
-        int automatic = 1;
+        std::vector<int> automatic{1};
     };
     static std::optional<Mode> queryMode(const V4l2Device &device, std::uint32_t id);
     bool isAutomatic(const Mode &mode) const;
+    bool isManual(const Mode &mode) const;
     bool switchTo(const Mode &mode, int value);
 
     Outcome applyAutomatic(ControlWrites writes);
     Outcome applyValue(int value, ControlWrites writes);
     bool holds(int value) const;
+    int setValue(int value, bool settling);
 
     const V4l2Device &m_device;
     V4l2Device::Control m_control;

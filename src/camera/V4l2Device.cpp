@@ -117,7 +117,7 @@ std::optional<int> V4l2Device::value(const Control &control) const
     v4l2_ext_controls list = listOf(entry);
     if (request(VIDIOC_G_EXT_CTRLS, &list))
         return {};
-    return control.is64Bit ? static_cast<int>(entry.value64) : entry.value;
+    return control.is64Bit ? to32Bits(entry.value64) : entry.value;
 }
 
 int V4l2Device::setValue(const Control &control, int value) const

@@ -93,7 +93,7 @@ private slots:
     void valuesArrive_data()
     {
         QTest::addColumn<QString>("setting");
-        for (const auto *const setting : {"controls=2", "controls=3", "refuse-first=1"})
+        for (const auto *const setting : {"controls=2", "controls=3", "refuse-first=4"})
             QTest::newRow(setting) << setting;
     }
 
@@ -102,6 +102,8 @@ private slots:
         QFETCH(QString, setting);
         plug(setting);
         const V4l2Client other; // holds the device open, as the stream does
+        if (setting == QStringLiteral("controls=3"))
+            QCOMPARE(other.setControl(V4L2_CID_EXPOSURE_AUTO, V4L2_EXPOSURE_SHUTTER_PRIORITY), 0);
         QVERIFY(apply(manualSettings()));
         QCOMPARE(other.control(V4L2_CID_EXPOSURE_AUTO), V4L2_EXPOSURE_MANUAL);
         QCOMPARE(other.control(V4L2_CID_EXPOSURE_ABSOLUTE), 200);
@@ -119,7 +121,8 @@ private slots:
         QTest::addColumn<QString>("setting");
         QTest::addColumn<int>("exposureMode");
         QTest::newRow("aperture priority") << "controls=2" << int(V4L2_EXPOSURE_APERTURE_PRIORITY);
-        QTest::newRow("full automatic") << "controls=3" << int(V4L2_EXPOSURE_AUTO);
+        QTest::newRow("full automatic, the other one refused")
+            << "controls=3" << int(V4L2_EXPOSURE_AUTO);
     }
 
     void automaticModes()
@@ -173,8 +176,8 @@ private slots:
     {
         QTest::addColumn<bool>("changes");
         QTest::addColumn<int>("requests"); // for controls, without opening and closing the device
-        QTest::newRow("nothing changed") << false << 19;
-        QTest::newRow("focus changed") << true << 20;
+        QTest::newRow("nothing changed") << false << 20;
+        QTest::newRow("focus changed") << true << 21;
     }
 
     void costOfACall()
@@ -238,11 +241,17 @@ private slots:
         QVERIFY2(other.control(V4L2_CID_EXPOSURE_ABSOLUTE) != 200, "needs its range");
     }
 
-    void noControls()
+    void failuresAreTold()
     {
         set(QStringLiteral("controls=0"));
         QString error = QStringLiteral("of an earlier call");
         QVERIFY(!apply(manualSettings(), ControlWrites::Changed, &error));
+        QCOMPARE(error, "V4L2-Kamera Meridax Simulated Camera hat keinen Wert angenommen.");
+        CameraCapabilities caps;
+        QVERIFY(!m_backend.queryCameraCapabilities(manualSettings(), &caps, &error));
+        QCOMPARE(error, "V4L2-Kamera Meridax Simulated Camera nennt keine Bereiche.");
+        set(QStringLiteral("controls=2"));
+        QVERIFY(apply(manualSettings(), ControlWrites::Changed, &error));
         QCOMPARE(error, QString());
     }
 

@@ -44,6 +44,13 @@ constexpr Control menu(const char *const *entries, std::uint32_t mask, Control c
     return control;
 }
 
+/// The menu `control` with entries that are refused when chosen.
+constexpr Control refusing(std::uint32_t mask, Control control)
+{
+    control.refusedMask = mask;
+    return control;
+}
+
 constexpr Control on(unsigned cameras, Control control, std::uint32_t flags = 0)
 {
     control.cameras = cameras;
@@ -81,8 +88,9 @@ constexpr Control kControls[] = {
     on(kCommon, menu(kExposureMenu, 0b1010,
                      {V4L2_CID_EXPOSURE_AUTO, kMenu, "Auto Exposure", 0, 3,
                       V4L2_EXPOSURE_APERTURE_PRIORITY})),
-    on(kOdd, menu(kExposureMenu, 0b0011,
-                  {V4L2_CID_EXPOSURE_AUTO, kMenu, "Auto Exposure", 0, 1, V4L2_EXPOSURE_AUTO})),
+    on(kOdd, refusing(0b1000, menu(kExposureMenu, 0b1111,
+                                   {V4L2_CID_EXPOSURE_AUTO, kMenu, "Auto Exposure", 0, 3,
+                                    V4L2_EXPOSURE_AUTO}))),
     on(kCommon | kOdd, ruledBy(V4L2_CID_EXPOSURE_AUTO, V4L2_EXPOSURE_MANUAL,
                                {V4L2_CID_EXPOSURE_ABSOLUTE, kInteger, "Exposure Time, Absolute", 1,
                                 5000, kNominalExposure})),
@@ -169,7 +177,7 @@ int validate(const Control &control, std::int32_t &value)
     case kMenu:
         if (value < control.min || value > control.max)
             return -ERANGE;
-        return control.menuMask >> value & 1 ? 0 : -EINVAL;
+        return (control.menuMask & ~control.refusedMask) >> value & 1 ? 0 : -EINVAL;
     default:
         value = std::clamp(value, control.min, control.max);
         return 0;

@@ -17,11 +17,12 @@ struct Control
     int max;
     int defaultValue;
     const char *const *menu = nullptr;
-    std::uint32_t menuMask = 0; ///< bit i: menu entry i exists
-    std::uint32_t master = 0;   ///< control whose automatic mode takes this one over
-    int masterManual = 0;       ///< value of the master that leaves this control to the user
-    unsigned cameras = 0;       ///< bit i: offered where the parameter `controls` is i
-    std::uint32_t flags = 0;    ///< V4L2_CTRL_FLAG_* that never change
+    std::uint32_t menuMask = 0;    ///< bit i: menu entry i exists
+    std::uint32_t refusedMask = 0; ///< bit i: it does, but cannot be chosen
+    std::uint32_t master = 0;      ///< control whose automatic mode takes this one over
+    int masterManual = 0;          ///< value of the master that leaves this control to the user
+    unsigned cameras = 0;          ///< bit i: offered where the parameter `controls` is i
+    std::uint32_t flags = 0;       ///< V4L2_CTRL_FLAG_* that never change
 
     bool isClass() const { return type == V4L2_CTRL_TYPE_CTRL_CLASS; }
     bool is64Bit() const { return type == V4L2_CTRL_TYPE_INTEGER64; }

@@ -87,8 +87,10 @@ int Device::checkControls(const v4l2_ext_controls &list, unsigned request,
                         mode = list.controls[k].value;
                 if (mode != control->masterManual)
                     result = -EACCES;
-                else if (m_state.isRefusing.exchange(0))
+                else if (m_state.refusals > 0) {
+                    --m_state.refusals;
                     result = -EBUSY;
+                }
             }
         }
         if (result) {
@@ -158,7 +160,7 @@ void Device::setControl(const Handle *from, const Control &control, std::int32_t
     for (const Control &other : simcam::controls())
         if (other.master == control.id && isOffered(m_state, other)) {
             notify(nullptr, other, V4L2_EVENT_CTRL_CH_FLAGS);
-            m_state.isRefusing = m_state.isOn(Param::RefuseFirst);
+            m_state.refusals = static_cast<std::uint32_t>(m_state.get(Param::RefuseFirst));
         }
 }
 

@@ -33,7 +33,7 @@ struct State
     std::atomic<std::int32_t> owner;                 ///< process that holds the buffers, 0 none
     std::atomic<std::int32_t> control[kMaxControls]; ///< in the driver's memory
     std::atomic<std::int32_t> held[kMaxControls];    ///< in the camera
-    std::atomic<std::uint32_t> isRefusing;           ///< the next value of a control is refused
+    std::atomic<std::uint32_t> refusals;             ///< so many next values are refused
 
     // Statistics, written by the library.
     std::atomic<std::uint32_t> frames, dropped, renderUs, opens;
