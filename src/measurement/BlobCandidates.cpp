@@ -228,6 +228,7 @@ std::vector<BlobCandidate> candidatesOf(const BlobScan &scan, const cv::Mat &ima
 {
     constexpr double faintest = 6.0;
     constexpr double timesNoise = 2.0;
+    constexpr double smallest = 36.0; // about 7 px across; specks of dust are smaller
     constexpr double weightOfDarkness = 1.5;
     if (image.empty())
         return {};
@@ -239,7 +240,7 @@ std::vector<BlobCandidate> candidatesOf(const BlobScan &scan, const cv::Mat &ima
         if (chain.size() < 2)
             continue;
         BlobCandidate candidate = candidateOf(scan, std::move(chain), image, settings);
-        if (candidate.darkness < threshold)
+        if (candidate.darkness < threshold || candidate.area < smallest)
             continue;
         darkest = std::max(darkest, candidate.darkness);
         candidates.push_back(std::move(candidate));

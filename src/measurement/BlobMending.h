@@ -22,6 +22,9 @@ struct Mending
     /// Without settings: an outline of the first sighting's scan that no setting keeps out, or -1
     /// where the candidate itself cannot be let through.
     int inTheWay = -1;
+    /// How round the candidate shows where it shows worst; of two ways to mend, the higher one is
+    /// the steadier.
+    double steadiness = 0.0;
 };
 
 /// Looks for settings that let the candidate through in every sighting, with a margin, and nothing

@@ -30,7 +30,8 @@ double medianDistance(const std::vector<cv::Point> &points, cv::Point2d centre)
         distances.push_back(std::hypot(point.x - centre.x, point.y - centre.y));
     const auto middle = distances.begin() + static_cast<std::ptrdiff_t>(distances.size() / 2);
     std::nth_element(distances.begin(), middle, distances.end());
-    return *middle;
+    return distances.size() % 2 ? *middle
+                                : (*middle + *std::max_element(distances.begin(), middle)) / 2.0;
 }
 
 /// Adds the outlines at one threshold to the scan.
@@ -106,14 +107,31 @@ BlobScan scanOutlines(const cv::Mat &image, double scale, const BlobSettings &se
     return scan;
 }
 
+std::vector<int> passingOutlines(const BlobScan &scan, const BlobSettings &settings)
+{
+    const cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
+    std::vector<int> passing;
+    for (size_t i = 0; i < scan.outlines.size(); ++i) {
+        if (passes(scan.outlines[i], params))
+            passing.push_back(static_cast<int>(i));
+    }
+    return passing;
+}
+
 std::vector<FoundBlob> blobsFound(const BlobScan &scan, const BlobSettings &settings)
+{
+    return blobsFound(scan, passingOutlines(scan, settings), settings);
+}
+
+std::vector<FoundBlob> blobsFound(const BlobScan &scan, std::span<const int> among,
+                                  const BlobSettings &settings)
 {
     const cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
     // As the detector gathers them: outlines about the same place are one blob, in order of size.
     std::vector<std::vector<int>> blobs;
     size_t known = 0; // blobs of the thresholds before
     double threshold = -1.0;
-    for (size_t i = 0; i < scan.outlines.size(); ++i) {
+    for (const int i : among) {
         const BlobOutline &outline = scan.outlines[i];
         if (!passes(outline, params))
             continue;
@@ -130,13 +148,13 @@ std::vector<FoundBlob> blobsFound(const BlobScan &scan, const BlobSettings &sett
         const auto end = blobs.begin() + static_cast<std::ptrdiff_t>(known);
         const auto same = std::find_if(blobs.begin(), end, isSame);
         if (same == end) {
-            blobs.push_back({static_cast<int>(i)});
+            blobs.push_back({i});
             continue;
         }
-        const auto place = std::upper_bound(
-            same->begin(), same->end(), static_cast<int>(i),
-            [&scan](int a, int b) { return scan.outlines[a].radius < scan.outlines[b].radius; });
-        same->insert(place, static_cast<int>(i));
+        const auto place = std::upper_bound(same->begin(), same->end(), i, [&scan](int a, int b) {
+            return scan.outlines[a].radius < scan.outlines[b].radius;
+        });
+        same->insert(place, i);
     }
 
     std::vector<FoundBlob> found;

@@ -2,6 +2,7 @@
 
 #include "measurement/BlobAnalysis.h"
 
+#include <span>
 #include <vector>
 
 /// What the blob detector meets before its filters decide. All in pixels of the detection image.
@@ -41,8 +42,14 @@ struct FoundBlob
     int outlines = 0; ///< at how many thresholds it shows, by and large
 };
 
+/// The outlines that pass the filters of `settings`, as indices.
+std::vector<int> passingOutlines(const BlobScan &scan, const BlobSettings &settings);
+
 /// The blobs that the detector finds in the scanned picture with `settings`, whose thresholds must
 /// be among those of the scan.
 std::vector<FoundBlob> blobsFound(const BlobScan &scan, const BlobSettings &settings);
+/// The same where only the outlines of these ascending indices can pass.
+std::vector<FoundBlob> blobsFound(const BlobScan &scan, std::span<const int> among,
+                                  const BlobSettings &settings);
 
 } // namespace meridax
