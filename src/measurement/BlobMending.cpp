@@ -256,7 +256,7 @@ public:
     bool findsOnlyCandidate(const BlobSettings &settings) const
     {
         for (size_t i = 0; i < m_sightings.size(); ++i) {
-            const std::vector<FoundBlob> found = foundIn(i, settings);
+            const std::vector<FoundBlob> found = foundIn(i, settings, 1);
             if (found.size() != 1 || !isCandidate(found[0], m_sightings[i]))
                 return false;
         }
@@ -267,7 +267,7 @@ public:
     int other(const BlobSettings &settings) const
     {
         const FoundBlob *largest = nullptr;
-        const std::vector<FoundBlob> found = foundIn(0, settings);
+        const std::vector<FoundBlob> found = foundIn(0, settings, m_outlines[0].size());
         for (const FoundBlob &blob : found) {
             if (!isCandidate(blob, m_sightings[0]) && (!largest || blob.radius > largest->radius))
                 largest = &blob;
@@ -276,9 +276,9 @@ public:
     }
 
 private:
-    std::vector<FoundBlob> foundIn(size_t sighting, const BlobSettings &settings) const
+    std::vector<FoundBlob> foundIn(size_t sighting, const BlobSettings &settings, size_t most) const
     {
-        return blobsFound(*m_sightings[sighting].scan, m_outlines[sighting], settings);
+        return blobsFound(*m_sightings[sighting].scan, m_outlines[sighting], settings, most);
     }
 
     std::span<const BlobSighting> m_sightings;

@@ -120,16 +120,17 @@ std::vector<int> passingOutlines(const BlobScan &scan, const BlobSettings &setti
 
 std::vector<FoundBlob> blobsFound(const BlobScan &scan, const BlobSettings &settings)
 {
-    return blobsFound(scan, passingOutlines(scan, settings), settings);
+    return blobsFound(scan, passingOutlines(scan, settings), settings, scan.outlines.size());
 }
 
 std::vector<FoundBlob> blobsFound(const BlobScan &scan, std::span<const int> among,
-                                  const BlobSettings &settings)
+                                  const BlobSettings &settings, size_t most)
 {
     const cv::SimpleBlobDetector::Params params = buildDetectorParams(settings);
     // As the detector gathers them: outlines about the same place are one blob, in order of size.
     std::vector<std::vector<int>> blobs;
     size_t known = 0; // blobs of the thresholds before
+    size_t repeated = 0;
     double threshold = -1.0;
     for (const int i : among) {
         const BlobOutline &outline = scan.outlines[i];
@@ -155,6 +156,8 @@ std::vector<FoundBlob> blobsFound(const BlobScan &scan, std::span<const int> amo
             return scan.outlines[a].radius < scan.outlines[b].radius;
         });
         same->insert(place, i);
+        if (same->size() == params.minRepeatability && ++repeated > most)
+            return {};
     }
 
     std::vector<FoundBlob> found;

@@ -48,8 +48,9 @@ std::vector<int> passingOutlines(const BlobScan &scan, const BlobSettings &setti
 /// The blobs that the detector finds in the scanned picture with `settings`, whose thresholds must
 /// be among those of the scan.
 std::vector<FoundBlob> blobsFound(const BlobScan &scan, const BlobSettings &settings);
-/// The same where only the outlines of these ascending indices can pass.
+/// The same where only the outlines of these ascending indices can pass; empty if there are more
+/// than `most`.
 std::vector<FoundBlob> blobsFound(const BlobScan &scan, std::span<const int> among,
-                                  const BlobSettings &settings);
+                                  const BlobSettings &settings, size_t most);
 
 } // namespace meridax
