@@ -128,7 +128,8 @@ BlobCandidate candidateOf(const BlobScan &scan, Chain chain, const cv::Mat &imag
                      [](const auto &a, const auto &b) { return a.first < b.first; });
 
     // The detector wants two outlines, so the second best decides.
-    const BlobOutline &deciding = scan.outlines[byMissing[1].second];
+    const size_t decides = std::min<size_t>(1, byMissing.size() - 1);
+    const BlobOutline &deciding = scan.outlines[byMissing[decides].second];
     BlobCandidate candidate;
     candidate.centre = {(deciding.centre.x + 0.5) * scan.scale - 0.5,
                         (deciding.centre.y + 0.5) * scan.scale - 0.5};
@@ -137,7 +138,7 @@ BlobCandidate candidateOf(const BlobScan &scan, Chain chain, const cv::Mat &imag
     candidate.circularity = deciding.circularity;
     candidate.inertia = deciding.inertia;
     candidate.darkness = darknessOf(image, deciding);
-    candidate.missing = byMissing[1].first;
+    candidate.missing = byMissing[decides].first;
     candidate.shortfalls = shortfallsOf(deciding, settings);
     candidate.outline = drawnOutline(deciding, scan.scale);
     for (const auto &[missing, index] : byMissing)
@@ -246,14 +247,20 @@ std::vector<BlobCandidate> candidatesOf(const BlobScan &scan, const cv::Mat &ima
         candidates.push_back(std::move(candidate));
     }
     // Dust and paper grain are round, too, but never as dark as what somebody has drawn.
-    const auto distance = [darkest](const BlobCandidate &candidate) {
-        return candidate.missing + weightOfDarkness * std::log(darkest / candidate.darkness);
-    };
-    std::stable_sort(candidates.begin(), candidates.end(),
-                     [&distance](const BlobCandidate &a, const BlobCandidate &b) {
-                         return distance(a) < distance(b);
-                     });
+    for (BlobCandidate &candidate : candidates) {
+        candidate.distance =
+            candidate.missing + weightOfDarkness * std::log(darkest / candidate.darkness);
+    }
+    std::stable_sort(
+        candidates.begin(), candidates.end(),
+        [](const BlobCandidate &a, const BlobCandidate &b) { return a.distance < b.distance; });
     return candidates;
+}
+
+BlobCandidate describeOutline(const BlobScan &scan, int outline, const cv::Mat &image,
+                              const BlobSettings &settings)
+{
+    return candidateOf(scan, {outline}, image, settings);
 }
 
 std::vector<BlobCandidate> findCandidates(const cv::Mat &grey, const BlobSettings &settings)

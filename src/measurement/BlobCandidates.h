@@ -33,6 +33,7 @@ struct BlobCandidate
     double inertia = 0.0;
     double darkness = 0.0; ///< grey levels below the surroundings
     double missing = 0.0;  ///< sum of what the filters miss, relative; 0: it passes
+    double distance = 0.0; ///< from what a mark that is found looks like; ranks the candidates
     std::vector<BlobShortfall> shortfalls;
     std::vector<QPointF> outline; ///< frame px, closed, thinned for drawing
     std::vector<int> chain;       ///< its outlines in the scan, least missing first
@@ -44,6 +45,10 @@ enum class PictureFault { TooDark, TooBright, NoContrast, OutOfFocus, NoDarkSpot
 /// The candidates of a scan, the one that lacks least first. `image` is what was scanned.
 std::vector<BlobCandidate> candidatesOf(const BlobScan &scan, const cv::Mat &image,
                                         const BlobSettings &settings);
+
+/// A single outline of the scan in the same words.
+BlobCandidate describeOutline(const BlobScan &scan, int outline, const cv::Mat &image,
+                              const BlobSettings &settings);
 
 /// Both steps for a frame at full resolution.
 std::vector<BlobCandidate> findCandidates(const cv::Mat &grey, const BlobSettings &settings);

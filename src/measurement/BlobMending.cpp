@@ -191,8 +191,10 @@ struct Proposal
 
 /// All settings worth a try, fewest changes first; among equals those that leave more room.
 std::vector<Proposal> proposals(std::span<const BlobSighting> sightings,
-                                const BlobSettings &settings)
+                                const BlobSettings &settings, double thresholdShift)
 {
+    BlobSettings shifted = settings;
+    shifted.minThreshold += thresholdShift;
     size_t shortest = std::numeric_limits<size_t>::max();
     for (const BlobSighting &sighting : sightings)
         shortest = std::min(shortest, sighting.candidate->chain.size());
@@ -203,7 +205,7 @@ std::vector<Proposal> proposals(std::span<const BlobSighting> sightings,
     };
     for (const size_t outlines : {std::clamp<size_t>(shortest / 2, 4, 8), size_t(3), size_t(2)}) {
         const ValueBox box = boxOf(sightings, outlines);
-        const BlobSettings base = opened(box, settings);
+        const BlobSettings base = opened(box, shifted);
         propose(base);
         const std::vector<Restriction> all = restrictions(box, base);
         for (size_t i = 0; i < all.size(); ++i) {
@@ -287,11 +289,12 @@ private:
 
 } // namespace
 
-Mending mendingSettings(std::span<const BlobSighting> sightings, const BlobSettings &settings)
+Mending mendingSettings(std::span<const BlobSighting> sightings, const BlobSettings &settings,
+                        double thresholdShift)
 {
     if (sightings.empty())
         return {};
-    const std::vector<Proposal> all = proposals(sightings, settings);
+    const std::vector<Proposal> all = proposals(sightings, settings, thresholdShift);
     BlobSettings mostOpen = all.front().settings;
     for (const auto &[proposed, changes] : all) {
         mostOpen.minThreshold = std::min(mostOpen.minThreshold, proposed.minThreshold);

@@ -28,8 +28,10 @@ struct Mending
 };
 
 /// Looks for settings that let the candidate through in every sighting, with a margin, and nothing
-/// else. The first sighting is the newest.
-Mending mendingSettings(std::span<const BlobSighting> sightings, const BlobSettings &settings);
+/// else. The first sighting is the newest. Their scans were made with a lower threshold that is
+/// `thresholdShift` above that of the settings.
+Mending mendingSettings(std::span<const BlobSighting> sightings, const BlobSettings &settings,
+                        double thresholdShift = 0.0);
 
 /// The same for a single frame.
 Mending mendingSettings(const BlobScan &scan, const BlobCandidate &candidate,

@@ -24,6 +24,13 @@ double wrapped(double degrees)
     return degrees;
 }
 
+/// From the middle line of a sector, deg.
+double deviation(QPointF offset, int guideIndex, int positions)
+{
+    const double angle = std::atan2(offset.y(), offset.x()) * 180.0 / std::numbers::pi;
+    return std::abs(wrapped(angle - guideAngle(guideIndex, positions)));
+}
+
 } // namespace
 
 double guideSpacing(int positions)
@@ -39,16 +46,20 @@ double guideAngle(int guideIndex, int positions)
 SectorState evaluateSector(QPointF blob, QPointF sectorCentre, QSize frame, int guideIndex,
                            int positions)
 {
-    const double dx = blob.x() - sectorCentre.x();
-    const double dy = blob.y() - sectorCentre.y();
-    if (std::hypot(dx, dy) < minimumRadius(frame))
+    const QPointF offset = blob - sectorCentre;
+    if (std::hypot(offset.x(), offset.y()) < minimumRadius(frame))
         return {};
 
-    const double angle = std::atan2(dy, dx) * 180.0 / std::numbers::pi;
-    const double delta = std::abs(wrapped(angle - guideAngle(guideIndex, positions)));
+    const double delta = deviation(offset, guideIndex, positions);
     if (!(delta <= guideSectorHalfWidth))
         return {};
     return {true, std::sqrt(1.0 - delta / guideSectorHalfWidth)};
+}
+
+double sectorDistance(QPointF blob, QPointF sectorCentre, int guideIndex, int positions)
+{
+    return std::max(0.0,
+                    deviation(blob - sectorCentre, guideIndex, positions) - guideSectorHalfWidth);
 }
 
 QPointF overlayCentre(const CameraSettings &settings)

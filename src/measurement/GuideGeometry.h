@@ -34,6 +34,9 @@ struct SectorState
 SectorState evaluateSector(QPointF blob, QPointF sectorCentre, QSize frame, int guideIndex,
                            int positions);
 
+/// How far from the sector of position `guideIndex` a blob lies, deg; 0 within it.
+double sectorDistance(QPointF blob, QPointF sectorCentre, int guideIndex, int positions);
+
 /// The centre of the overlay and of the guide sectors in frame pixels, with the offset if enabled.
 QPointF overlayCentre(const CameraSettings &settings);
 
