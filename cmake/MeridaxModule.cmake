@@ -31,6 +31,7 @@ qt_add_qml_module(meridax_module
     QML_FILES ${meridax_qml_public} ${meridax_qml_internal}
     SOURCES
         src/camera/CameraController.cpp src/camera/CameraController.h
+        src/camera/CameraController_controls.cpp
         src/camera/CameraController_device.cpp
         src/camera/CameraController_pipeline.cpp
         src/camera/FrameWatchdog.cpp src/camera/FrameWatchdog.h

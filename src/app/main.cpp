@@ -1,5 +1,6 @@
 #include "app/SingleInstance.h"
 #include "app/TitleBar.h"
+#include "camera/ControlThread.h"
 #include "diagnostics/CrashHandler.h"
 #include "diagnostics/LogManager.h"
 #include "items/LinkColor.h"
@@ -16,6 +17,8 @@
 #include <QStandardPaths>
 #include <QTranslator>
 #include <QWindow>
+
+#include <cstdlib>
 
 // The QML module lies in a static library: without this reference the linker would drop the
 // registration of its types.
@@ -67,11 +70,9 @@ QWindow *rootWindow(const QQmlApplicationEngine &engine)
     return qobject_cast<QWindow *>(engine.rootObjects().value(0));
 }
 
-} // namespace
-
 // The order is a requirement: each step depends on the ones before it, and everything is destroyed
 // in the opposite order, the lock last.
-int main(int argc, char *argv[])
+int runProgram(int argc, char *argv[])
 {
     // The data folder is derived from the names, and the lock lies in it.
     setApplicationIdentity();
@@ -107,4 +108,16 @@ int main(int argc, char *argv[])
             raiseWindow(*window);
     });
     return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const int exitCode = runProgram(argc, argv);
+    // A camera that hangs has kept its thread. All is saved and the lock is free, so the process
+    // ends without taking the ground from under that thread.
+    if (ControlThread::anyLeftBehind())
+        std::_Exit(exitCode);
+    return exitCode;
 }

@@ -8,11 +8,12 @@ namespace meridax {
 
 CameraController::CameraController(QObject *parent, CameraControls controls)
     : QObject(parent)
-    , m_controls(std::move(controls))
+    , m_controlOrder(controls.order)
 {
     qRegisterMetaType<CameraCapabilities>("CameraCapabilities");
     createCalibrationSession();
     createFocusSession();
+    createControlThread(std::move(controls.backend));
 
     m_session.setVideoSink(&m_sink);
     connect(&m_sink, &QVideoSink::videoFrameChanged, this, &CameraController::onVideoFrame);
@@ -26,7 +27,7 @@ CameraController::CameraController(QObject *parent, CameraControls controls)
 CameraController::~CameraController()
 {
     stopCamera();
-    joinCapabilityThread();
+    m_controlThread.reset();
     {
         const std::lock_guard lock(m_pendingMutex);
         m_stopRequested = true;

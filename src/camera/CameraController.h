@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/CameraCapabilities.h"
+#include "camera/ControlThread.h"
 #include "camera/FrameWatchdog.h"
 #include "camera/ICameraBackend.h"
 #include "settings/AppSettings.h"
@@ -136,19 +137,23 @@ private:
     void closeCameraAfterFailure();
     bool deviceIsGone() const;
     void applyCameraFormat();
-    void applyCameraControls(ControlWrites writes = ControlWrites::Changed);
-    bool backendTakes(const CameraSettings &settings, ControlWrites writes) const;
-    void applyControlsThroughQt(QCamera &camera) const;
-    void applyFocusValue(int value);
     void onActiveChanged(bool active);
     void onCameraError(const QString &errorText);
     void onVideoInputsChanged();
     void onFramesSilent();
     void onFramesFailing();
+
+    // Controls and what the camera can do (CameraController_controls.cpp)
+    void createControlThread(std::shared_ptr<ICameraBackend> backend);
+    void applyCameraControls(ControlWrites writes = ControlWrites::Changed);
+    std::uint64_t applyFocusValue(int value);
+    std::uint64_t writeControls(const ControlRecord &record);
+    void setModesThroughQt(const ControlRecord &record);
+    void setValuesThroughQt(const ControlRecord &record);
+    void onControlsWritten(const ControlAnswer &answer);
     void startCapabilityProbe();
-    void capabilityProbe(const CameraSettings &settings);
-    void deliverCapabilities(const QString &cameraId, const CameraCapabilities &caps);
-    void joinCapabilityThread();
+    void onCapabilitiesQueried(const CapabilityAnswer &answer);
+    void deliverCapabilities(const CameraCapabilities &caps);
 
     // The one-frame pipeline (CameraController_pipeline.cpp)
     void invalidateFramesInFlight();
@@ -175,6 +180,7 @@ private:
     void measureSharpness(const cv::Mat &frame, int greyConversion);
     const CameraSettings &sweepSettings() const;
     void onFocusTick();
+    void onFocusWritten(const ControlAnswer &answer);
     void continueFocusSweep();
     void moveFocusToNextPosition();
     void endFocusSweep(int focusValue, FocusOutcome outcome);
@@ -186,12 +192,14 @@ private:
     QCameraDevice m_device;      ///< what m_camera was opened on
     QVideoSink m_sink;
     FrameWatchdog m_watchdog;
-    CameraControls m_controls;
     AppSettings m_settings; ///< GUI thread only
 
+    ControlOrder m_controlOrder;
+    std::unique_ptr<ControlThread> m_controlThread; ///< null without a backend
+    std::uint64_t m_lastWrite = 0;                  ///< number of the last record written
+    std::uint64_t m_writesOfOthers = 0; ///< up to here records went to a camera closed since
     bool m_capabilitiesQueried = false;
-    std::atomic<bool> m_capabilitiesProbeRunning = false;
-    std::thread m_capabilityThread;
+    std::uint64_t m_capabilitiesProbe = 0; ///< number of the question under way, 0 none
 
     std::thread m_processingThread;
     std::mutex m_pendingMutex; ///< guards the next four

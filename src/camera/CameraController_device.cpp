@@ -1,8 +1,6 @@
 #include "camera/CameraController.h"
-#include "camera/CameraScales.h"
 #include "camera/DeviceChoice.h"
 #include "camera/FormatChoice.h"
-#include "diagnostics/CrashHandler.h"
 
 #include <QCamera>
 #include <QCameraFormat>
@@ -17,8 +15,8 @@ namespace meridax {
 void CameraController::startCamera()
 {
     stopCamera();
-    joinCapabilityThread();
     m_capabilitiesQueried = false;
+    m_capabilitiesProbe = 0;
     invalidateFramesInFlight();
     m_streaming = true;
 
@@ -52,6 +50,7 @@ void CameraController::stopCamera()
     cancelFocusSweep();
     m_watchdog.stop();
     m_streaming = false;
+    m_writesOfOthers = m_lastWrite;
     invalidateFramesInFlight();
 
     if (m_camera) {
@@ -93,6 +92,7 @@ void CameraController::onCameraError(const QString &errorText)
 void CameraController::closeCameraAfterFailure()
 {
     m_watchdog.stop();
+    m_writesOfOthers = m_lastWrite;
     QCamera *const camera = std::exchange(m_camera, nullptr);
     if (!camera)
         return;
@@ -147,98 +147,6 @@ void CameraController::applyCameraFormat()
     const QSize wanted(m_settings.camera.cameraResolutionX, m_settings.camera.cameraResolutionY);
     if (const int best = chooseFormat(candidates, wanted); best >= 0)
         m_camera->setCameraFormat(formats[best]);
-}
-
-void CameraController::applyCameraControls(ControlWrites writes)
-{
-    if (!m_camera || deviceIsGone())
-        return;
-    // An error that a call raises lets go of m_camera; the object itself lives on for a turn.
-    QCamera &camera = *m_camera;
-    const bool backendFirst = m_controls.order == ControlOrder::BackendFirst;
-    if (backendFirst && backendTakes(m_settings.camera, writes))
-        return;
-    camera.setFocusMode(m_settings.camera.focusValue >= 1 ? QCamera::FocusModeManual
-                                                          : QCamera::FocusModeAuto);
-    camera.setExposureMode(QCamera::ExposureAuto);
-    if (backendFirst || !backendTakes(m_settings.camera, writes))
-        applyControlsThroughQt(camera);
-}
-
-bool CameraController::backendTakes(const CameraSettings &settings, ControlWrites writes) const
-{
-    return m_controls.backend && m_controls.backend->applySettings(settings, writes, nullptr);
-}
-
-void CameraController::applyControlsThroughQt(QCamera &camera) const
-{
-    const CameraSettings &settings = m_settings.camera;
-    if (settings.focusValue > 0)
-        camera.setFocusDistance(focusDistance(settings.focusValue, settings.focusRangeMax));
-    if (camera.supportedFeatures().testFlag(QCamera::Feature::ManualExposureTime)) {
-        camera.setExposureMode(QCamera::ExposureManual);
-        camera.setManualExposureTime(exposureSeconds(settings.captureTimeMs));
-    }
-}
-
-void CameraController::applyFocusValue(int value)
-{
-    if (!m_camera || deviceIsGone())
-        return;
-    QCamera &camera = *m_camera;
-    CameraSettings settings = sweepSettings();
-    settings.focusValue = value;
-    const bool backendFirst = m_controls.order == ControlOrder::BackendFirst;
-    if (backendFirst && backendTakes(settings, ControlWrites::Changed))
-        return;
-    camera.setFocusMode(QCamera::FocusModeManual);
-    if (backendFirst || !backendTakes(settings, ControlWrites::Changed))
-        camera.setFocusDistance(focusDistance(value, settings.focusRangeMax));
-}
-
-void CameraController::startCapabilityProbe()
-{
-    m_capabilitiesProbeRunning = true;
-    m_capabilityThread =
-        std::thread([this, settings = m_settings.camera] { capabilityProbe(settings); });
-}
-
-void CameraController::capabilityProbe(const CameraSettings &settings)
-{
-    CrashHandler::coverThread();
-    CameraCapabilities caps;
-    if (m_controls.backend &&
-        m_controls.backend->queryCameraCapabilities(settings, &caps, nullptr)) {
-        for (const QString &line : capabilityLogLines(settings.cameraName, caps))
-            qInfo().noquote() << line;
-        QMetaObject::invokeMethod(
-            this, [this, id = settings.cameraId, caps] { deliverCapabilities(id, caps); },
-            Qt::QueuedConnection);
-        return;
-    }
-    qInfo().noquote() << "[CameraCaps] queryCameraCapabilities returned false — UI fällt auf "
-                         "Default-Ranges zurück";
-    m_capabilitiesProbeRunning = false;
-}
-
-void CameraController::deliverCapabilities(const QString &cameraId, const CameraCapabilities &caps)
-{
-    // A slow answer may come when another camera is chosen already: it is none of that camera's.
-    if (cameraId != m_settings.camera.cameraId)
-        return;
-    emit cameraCapabilitiesDetected(caps);
-    if (caps.focus.supported && caps.focus.min < caps.focus.max) {
-        m_settings.camera.focusRangeMin = caps.focus.min;
-        m_settings.camera.focusRangeMax = caps.focus.max;
-        emit focusRangeDetected(caps.focus.min, caps.focus.max);
-    }
-    m_capabilitiesProbeRunning = false;
-}
-
-void CameraController::joinCapabilityThread()
-{
-    if (m_capabilityThread.joinable())
-        m_capabilityThread.join();
 }
 
 } // namespace meridax

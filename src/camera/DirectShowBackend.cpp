@@ -21,7 +21,8 @@ void tell(QString *error, const std::wstring &text)
 
 } // namespace
 
-bool DirectShowBackend::applySettings(const CameraSettings &settings, ControlWrites, QString *error)
+ApplyResult DirectShowBackend::applySettings(const CameraSettings &settings, ControlWrites,
+                                             QString *error)
 {
     const directshow::Values values{.exposure = settings.captureTimeMs,
                                     .focus = settings.focusValue,
@@ -34,7 +35,7 @@ bool DirectShowBackend::applySettings(const CameraSettings &settings, ControlWri
         cameraOf(settings), values,
         [](const std::string &line) { qInfo().noquote() << QString::fromStdString(line); }, text);
     tell(error, text);
-    return accepted;
+    return {.taken = accepted};
 }
 
 bool DirectShowBackend::queryCameraCapabilities(const CameraSettings &settings,

@@ -10,8 +10,8 @@ class DirectShowBackend final : public ICameraBackend
 {
 public:
     /// Writes all controls whatever `writes` says: nothing tells here what the camera has.
-    bool applySettings(const CameraSettings &settings, ControlWrites writes,
-                       QString *error) override;
+    ApplyResult applySettings(const CameraSettings &settings, ControlWrites writes,
+                              QString *error) override;
     bool queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
                                  QString *error) override;
 };

@@ -15,19 +15,28 @@ enum class ControlWrites {
     All,     ///< each one: a camera may have forgotten what its driver remembers
 };
 
+/// What a camera made of the values it was given.
+struct ApplyResult
+{
+    bool taken = false;    ///< at least one control has its value now
+    bool noAnswer = false; ///< the camera stopped to answer, and the rest was not tried
+
+    explicit operator bool() const { return taken; }
+    bool operator==(const ApplyResult &) const = default;
+};
+
 /// The seam to platform camera control: everything that Qt's camera classes leave out.
-/// Implementations hold no state between calls, since applySettings() comes on the GUI thread and
-/// queryCameraCapabilities() on the capability thread, possibly at the same time.
+/// Implementations hold no state between calls. All calls come on the control thread.
 class ICameraBackend
 {
 public:
     virtual ~ICameraBackend() = default;
 
     /// Writes exposure, focus, brightness, contrast, saturation and gain to the device that
-    /// `settings` names. Returns true if at least one control has its value now. `error` may be
-    /// null; otherwise it is emptied and receives a text on failure.
-    virtual bool applySettings(const CameraSettings &settings, ControlWrites writes,
-                               QString *error) = 0;
+    /// `settings` names, until the camera stops to answer. `error` may be null; otherwise it is
+    /// emptied and receives a text on failure.
+    virtual ApplyResult applySettings(const CameraSettings &settings, ControlWrites writes,
+                                      QString *error) = 0;
 
     /// Resets `caps` and fills in every control the device answers for. Returns true if at least
     /// one control is supported. `error` as in applySettings().

@@ -27,6 +27,11 @@ void tell(QString *error, const QString &text)
         *error = text;
 }
 
+QString errorText(int error)
+{
+    return QString::fromStdString(std::generic_category().message(error));
+}
+
 /// True if the error of opening a node means that no camera is there, not that it is denied.
 bool meansNoCamera(int error)
 {
@@ -37,9 +42,8 @@ std::optional<V4l2Device> opened(V4l2Device device, const QString &path, QString
 {
     if (!device.error())
         return device;
-    tell(error,
-         QStringLiteral("V4L2-Kamera %1 konnte nicht geöffnet werden: %2")
-             .arg(path, QString::fromStdString(std::generic_category().message(device.error()))));
+    tell(error, QStringLiteral("V4L2-Kamera %1 konnte nicht geöffnet werden: %2")
+                    .arg(path, errorText(device.error())));
     return {};
 }
 
@@ -103,7 +107,7 @@ bool applyImageControl(const V4l2Device &device, V4l2ControlIds ids, int value,
                        ControlWrites writes)
 {
     V4l2Control control(device, ids);
-    if (!control.exists())
+    if (!control.exists() || device.lost())
         return false;
     const ControlWrite write = controlWrite(value, control.range());
     const V4l2Control::Outcome outcome = control.apply(write, writes);
@@ -115,22 +119,28 @@ bool applyImageControl(const V4l2Device &device, V4l2ControlIds ids, int value,
 
 } // namespace
 
-bool V4l2Backend::applySettings(const CameraSettings &settings, ControlWrites writes,
-                                QString *error)
+ApplyResult V4l2Backend::applySettings(const CameraSettings &settings, ControlWrites writes,
+                                       QString *error)
 {
     const std::optional<V4l2Device> device = openWanted(settings, error);
     if (!device)
-        return false;
+        return {};
+    const auto image = [&](V4l2ControlIds ids, int value) {
+        return applyImageControl(*device, ids, value, writes);
+    };
     bool taken = applyExposure(*device, settings.captureTimeMs, writes);
     taken |= applyFocus(*device, settings.focusValue, writes);
-    taken |= applyImageControl(*device, brightness, settings.brightness, writes);
-    taken |= applyImageControl(*device, contrast, settings.contrast, writes);
-    taken |= applyImageControl(*device, saturation, settings.saturation, writes);
-    taken |= applyImageControl(*device, gain, settings.gain, writes);
-    if (!taken)
+    taken |= image(brightness, settings.brightness);
+    taken |= image(contrast, settings.contrast);
+    taken |= image(saturation, settings.saturation);
+    taken |= image(gain, settings.gain);
+    if (device->lost())
+        tell(error, QStringLiteral("V4L2-Kamera %1 antwortet nicht: %2")
+                        .arg(device->name(), errorText(device->lost())));
+    else if (!taken)
         tell(error,
              QStringLiteral("V4L2-Kamera %1 hat keinen Wert angenommen.").arg(device->name()));
-    return taken;
+    return {.taken = taken, .noAnswer = device->lost() != 0};
 }
 
 bool V4l2Backend::queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,

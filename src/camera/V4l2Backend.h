@@ -17,8 +17,8 @@ namespace meridax {
 class V4l2Backend final : public ICameraBackend
 {
 public:
-    bool applySettings(const CameraSettings &settings, ControlWrites writes,
-                       QString *error) override;
+    ApplyResult applySettings(const CameraSettings &settings, ControlWrites writes,
+                              QString *error) override;
     bool queryCameraCapabilities(const CameraSettings &settings, CameraCapabilities *caps,
                                  QString *error) override;
 };

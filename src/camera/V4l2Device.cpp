@@ -36,6 +36,22 @@ bool isWritableNumber(const v4l2_query_ext_ctrl &query)
     }
 }
 
+/// True if the error means that the camera itself has not answered, in time or at all. A control
+/// whose range cannot be read may be broken on its own.
+bool meansNoAnswer(int error, unsigned long request)
+{
+    switch (error) {
+    case EIO:
+        return request != VIDIOC_QUERY_EXT_CTRL;
+    case ETIMEDOUT:
+    case EPROTO:
+    case ENODEV:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// A list of one control for VIDIOC_[GS]_EXT_CTRLS, which also reaches 64-bit controls.
 v4l2_ext_controls listOf(v4l2_ext_control &entry)
 {
@@ -72,17 +88,24 @@ V4l2Device::~V4l2Device()
 V4l2Device::V4l2Device(V4l2Device &&other) noexcept
     : m_fd(std::exchange(other.m_fd, -1))
     , m_error(other.m_error)
+    , m_lost(other.m_lost)
     , m_name(std::move(other.m_name))
 {
 }
 
 int V4l2Device::request(unsigned long request, void *argument) const
 {
+    if (m_lost)
+        return m_lost;
     int result = 0;
     do
         result = ::ioctl(m_fd, request, argument);
     while (result < 0 && errno == EINTR);
-    return result < 0 ? errno : 0;
+    if (result == 0)
+        return 0;
+    if (meansNoAnswer(errno, request))
+        m_lost = errno;
+    return errno;
 }
 
 int V4l2Device::query(std::uint32_t id, Control &control) const

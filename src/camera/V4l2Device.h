@@ -14,6 +14,9 @@ namespace meridax {
 /// One open V4L2 capture node with the calls that its controls need, beside whoever streams from
 /// it. Controls are named by their V4L2_CID_* id, never by their name, which drivers change.
 /// Results called `int` are 0 or an errno.
+///
+/// A camera that hangs keeps each request for seconds, so after the first one that it has not
+/// answered all others fail at once: lost() tells the reason.
 class V4l2Device
 {
 public:
@@ -24,6 +27,8 @@ public:
     V4l2Device &operator=(V4l2Device &&) = delete;
 
     int error() const { return m_error; }
+    /// 0, or the errno with which the camera stopped to answer.
+    int lost() const { return m_lost; }
     /// The name that the driver gives the camera.
     const QString &name() const { return m_name; }
 
@@ -51,6 +56,7 @@ private:
 
     int m_fd = -1;
     int m_error = 0;
+    mutable int m_lost = 0;
     QString m_name;
 };
 

@@ -41,7 +41,7 @@ void CameraController::startFocusSweep(double frameX, double frameY)
         return;
     const FocusRange range{std::max(camera.focusRangeMin, 1), camera.focusRangeMax};
     if (!range.usable()) {
-        const bool pending = m_capabilitiesProbeRunning;
+        const bool pending = m_capabilitiesProbe != 0;
         qWarning().nospace() << "[FocusTap] Kein nutzbarer Fokusbereich (min=" << range.min
                              << " max=" << range.max
                              << ") — Sweep abgebrochen, pending=" << pending;
@@ -99,6 +99,8 @@ void CameraController::onFocusTick()
         session.timer.stop();
         return;
     }
+    if (session.awaitedWrite != 0)
+        return;
     const std::uint64_t fresh = session.framesMeasured - session.framesAtMove;
     if (fresh < kFreshFrames && session.waitTicks < kMostWaitTicks) {
         ++session.waitTicks;
@@ -126,6 +128,20 @@ void CameraController::onFocusTick()
     }
 }
 
+void CameraController::onFocusWritten(const ControlAnswer &answer)
+{
+    FocusSession &session = *m_focus;
+    if (!session.active || session.awaitedWrite == 0 || answer.number < session.awaitedWrite)
+        return;
+    if (answer.result.noAnswer) {
+        endFocusSweep(session.sweepSettings.focusValue, FocusOutcome::NotControllable);
+        return;
+    }
+    // Only now the lens is on its way: frames from before do not count.
+    session.awaitedWrite = 0;
+    session.framesAtMove = session.framesMeasured;
+}
+
 void CameraController::continueFocusSweep()
 {
     if (!m_focus->active)
@@ -139,7 +155,7 @@ void CameraController::continueFocusSweep()
 
 void CameraController::moveFocusToNextPosition()
 {
-    applyFocusValue(m_focus->search.position());
+    m_focus->awaitedWrite = applyFocusValue(m_focus->search.position());
     m_focus->framesAtMove = m_focus->framesMeasured;
     m_focus->waitTicks = 0;
 }

@@ -23,6 +23,7 @@ struct FocusSession
     // GUI thread only
     FocusSweep search;
     std::uint64_t framesAtMove = 0; ///< `framesMeasured` at the last focus move
+    std::uint64_t awaitedWrite = 0; ///< number of the move that has not been answered, 0 none
     int waitTicks = 0;              ///< ticks spent waiting for frames since then
     CameraSettings sweepSettings;   ///< from the start; its focus value is the one to return to
     QTimer timer;

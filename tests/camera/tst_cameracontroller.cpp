@@ -238,18 +238,18 @@ private slots:
         settings.camera.gain = 20;
         settings.camera.focusValue = 400;
         controller.updateSettings(settings);
-        QCOMPARE(control("auto_exposure"), 1);
-        QCOMPARE(control("exposure_time_absolute"), 200);
-        QCOMPARE(control("focus_automatic_continuous"), 0);
-        QCOMPARE(control("focus_absolute"), 400);
-        QCOMPARE(control("gain"), 20);
+        QTRY_COMPARE(control("auto_exposure"), 1);
+        QTRY_COMPARE(control("exposure_time_absolute"), 200);
+        QTRY_COMPARE(control("focus_automatic_continuous"), 0);
+        QTRY_COMPARE(control("focus_absolute"), 400);
+        QTRY_COMPARE(control("gain"), 20);
 
         settings.camera.captureTimeMs = 1;
         settings.camera.focusValue = 0;
         controller.updateSettings(settings);
-        QCOMPARE(control("auto_exposure"), 3);
-        QCOMPARE(control("focus_automatic_continuous"), 1);
-        QCOMPARE(control("focus_absolute"), 400);
+        QTRY_COMPARE(control("auto_exposure"), 3);
+        QTRY_COMPARE(control("focus_automatic_continuous"), 1);
+        QTRY_COMPARE(control("focus_absolute"), 400);
     }
 
     void cameraWithoutControlsFallsBack()
