@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <functional>
 
 void qml_register_types_Meridax();
 
@@ -33,17 +34,23 @@ double threadSeconds()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-/// Frames the simulated camera has sent since it was plugged in.
-int framesSent()
+/// Runs the command line tool of the simulated camera and returns what it prints.
+QString simcam(const QStringList &arguments)
 {
     QProcess tool;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("LD_PRELOAD"));
     tool.setProcessEnvironment(environment);
-    tool.start(qEnvironmentVariable("SIMCAM_TOOL"), {QStringLiteral("truth")});
+    tool.start(qEnvironmentVariable("SIMCAM_TOOL"), arguments);
     tool.waitForFinished();
+    return QString::fromUtf8(tool.readAllStandardOutput());
+}
+
+/// Frames the simulated camera has sent since it was plugged in.
+int framesSent()
+{
     static const QRegularExpression frames(QStringLiteral("\\bframes[ =:]+(\\d+)"));
-    return frames.match(QString::fromUtf8(tool.readAllStandardOutput())).captured(1).toInt();
+    return frames.match(simcam({QStringLiteral("truth")})).captured(1).toInt();
 }
 
 /// Resident memory of this process [MiB].
@@ -68,15 +75,18 @@ bool start(CameraViewModel &viewModel, const QString &size)
     return QTest::qWaitFor([before] { return framesShown >= before + 2; }, 10'000);
 }
 
-/// Streams for a while; `dragging` moves the brightness as a hand on its slider does, 60 times a
-/// second.
-void measureStream(CameraViewModel &viewModel, const char *name, bool dragging)
+/// Takes one value of a slider.
+using Drag = std::function<void(int value)>;
+
+/// Streams for a while; `drag` gets values of the brightness as from a hand on its slider, 60 times
+/// a second.
+void measureStream(CameraViewModel &viewModel, const char *name, const Drag &drag)
 {
     int moves = 0;
     QTimer hand;
-    hand.callOnTimeout(&viewModel, [&viewModel, &moves] {
+    hand.callOnTimeout(&viewModel, [&] {
         const int range = viewModel.brightnessRangeMax() - viewModel.brightnessRangeMin();
-        viewModel.setBrightness(viewModel.brightnessRangeMin() + (++moves % (range + 1)));
+        drag(viewModel.brightnessRangeMin() + (++moves % (range + 1)));
     });
     // The longest time between two turns of the event loop is what a user feels.
     qint64 longest = 0;
@@ -89,7 +99,7 @@ void measureStream(CameraViewModel &viewModel, const char *name, bool dragging)
     const int sentBefore = framesSent();
     const double cpuBefore = threadSeconds();
     const int shownBefore = framesShown;
-    if (dragging)
+    if (drag)
         hand.start(16);
     sinceTurn.start();
     turns.start(5);
@@ -103,6 +113,23 @@ void measureStream(CameraViewModel &viewModel, const char *name, bool dragging)
                 "  longest turn %3lld ms\n",
                 name, sent, shown, 100.0 * shown / std::max(sent, 1), moves,
                 1000 * cpu / std::max(shown, 1), static_cast<long long>(longest));
+}
+
+/// A control that takes 100 ms, by the program's own way and by calls of the backend on the GUI
+/// thread in its place.
+void measureSlowCamera(CameraViewModel &viewModel, const Drag &drag)
+{
+    simcam({QStringLiteral("set"), QStringLiteral("control-hang=0.1")});
+    measureStream(viewModel, "slow, dragged", drag);
+    const CameraControls controls = platformCameraControls();
+    CameraSettings settings;
+    settings.cameraName = viewModel.selectedCameraName();
+    measureStream(viewModel, "slow, GUI thread", [&](int value) {
+        settings.brightness = value;
+        if (controls.backend)
+            controls.backend->applySettings(settings, ControlWrites::Changed, nullptr);
+    });
+    simcam({QStringLiteral("set"), QStringLiteral("control-hang=0")});
 }
 
 bool measureCycles(CameraViewModel &viewModel)
@@ -140,7 +167,9 @@ int main(int argc, char *argv[])
         return 1;
     }
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
-    measureStream(*viewModel, "1920x1080, still", false);
-    measureStream(*viewModel, "1920x1080, dragged", true);
+    const Drag drag = [viewModel](int value) { viewModel->setBrightness(value); };
+    measureStream(*viewModel, "1920x1080, still", {});
+    measureStream(*viewModel, "1920x1080, dragged", drag);
+    measureSlowCamera(*viewModel, drag);
     return measureCycles(*viewModel) ? 0 : 1;
 }

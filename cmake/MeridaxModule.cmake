@@ -34,6 +34,7 @@ qt_add_qml_module(meridax_module
         src/camera/CameraController_controls.cpp
         src/camera/CameraController_device.cpp
         src/camera/CameraController_pipeline.cpp
+        src/camera/CameraController_status.cpp
         src/camera/FrameWatchdog.cpp src/camera/FrameWatchdog.h
         src/items/FrameMapping.cpp src/items/FrameMapping.h
         src/items/LinkColor.cpp src/items/LinkColor.h
@@ -49,6 +50,7 @@ qt_add_qml_module(meridax_module
         src/viewmodel/CameraViewModel_camera.cpp
         src/viewmodel/CameraViewModel_crash.cpp
         src/viewmodel/CameraViewModel_focus.cpp
+        src/viewmodel/CameraViewModel_identity.cpp
         src/viewmodel/CameraViewModel_legal.cpp
         src/viewmodel/CameraViewModel_overlay.cpp
         src/viewmodel/CameraViewModel_presets.cpp

@@ -1611,6 +1611,18 @@ when you go to it. Off = only the focus value is set.</translation>
         <source>Kalibrierungszentrum konnte nicht berechnet werden.</source>
         <translation>The calibration centre could not be computed.</translation>
     </message>
+    <message>
+        <source>Kamera antwortet nicht</source>
+        <translation>Camera does not answer</translation>
+    </message>
+    <message>
+        <source>Kamera liefert kein Bild</source>
+        <translation>Camera sends no picture</translation>
+    </message>
+    <message>
+        <source>Kamera startet…</source>
+        <translation>Camera is starting…</translation>
+    </message>
 </context>
 <context>
     <name>meridax::CameraViewModel</name>

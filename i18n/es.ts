@@ -1611,6 +1611,18 @@ y se restauran al aplicarlo. Desactivado = solo se aplica el valor de enfoque.</
         <source>Kalibrierungszentrum konnte nicht berechnet werden.</source>
         <translation>No se ha podido calcular el centro de calibración.</translation>
     </message>
+    <message>
+        <source>Kamera antwortet nicht</source>
+        <translation>La cámara no responde</translation>
+    </message>
+    <message>
+        <source>Kamera liefert kein Bild</source>
+        <translation>La cámara no envía imagen</translation>
+    </message>
+    <message>
+        <source>Kamera startet…</source>
+        <translation>Iniciando la cámara…</translation>
+    </message>
 </context>
 <context>
     <name>meridax::CameraViewModel</name>

@@ -1611,6 +1611,18 @@ et restaurés lors de son rappel. Désactivé = seule la mise au point est rappe
         <source>Kalibrierungszentrum konnte nicht berechnet werden.</source>
         <translation>Le centre d’étalonnage n’a pas pu être calculé.</translation>
     </message>
+    <message>
+        <source>Kamera antwortet nicht</source>
+        <translation>La caméra ne répond pas</translation>
+    </message>
+    <message>
+        <source>Kamera liefert kein Bild</source>
+        <translation>La caméra n&apos;envoie pas d&apos;image</translation>
+    </message>
+    <message>
+        <source>Kamera startet…</source>
+        <translation>Démarrage de la caméra…</translation>
+    </message>
 </context>
 <context>
     <name>meridax::CameraViewModel</name>

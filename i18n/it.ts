@@ -1611,6 +1611,18 @@ poi ripristinati quando lo richiami. Disattivato = viene richiamato solo il valo
         <source>Kalibrierungszentrum konnte nicht berechnet werden.</source>
         <translation>Impossibile calcolare il centro di calibrazione.</translation>
     </message>
+    <message>
+        <source>Kamera antwortet nicht</source>
+        <translation>La camera non risponde</translation>
+    </message>
+    <message>
+        <source>Kamera liefert kein Bild</source>
+        <translation>La camera non invia immagini</translation>
+    </message>
+    <message>
+        <source>Kamera startet…</source>
+        <translation>Avvio della camera…</translation>
+    </message>
 </context>
 <context>
     <name>meridax::CameraViewModel</name>

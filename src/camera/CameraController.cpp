@@ -44,6 +44,11 @@ bool CameraController::isRunning() const
     return m_camera && m_camera->isActive();
 }
 
+QString CameraController::openDevice() const
+{
+    return m_camera ? QString::fromLatin1(m_device.id()) : QString();
+}
+
 QImage CameraController::latestFrame() const
 {
     const std::lock_guard lock(m_lastFrameMutex);

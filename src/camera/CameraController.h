@@ -65,7 +65,8 @@ public:
     ~CameraController() override;
 
     /// Opens the camera that the current settings name. Success is known when
-    /// `runningChanged(true)` arrives; without a fitting device `errorOccurred` is raised.
+    /// `runningChanged(true)` arrives; without a fitting device `errorOccurred` is raised. Then
+    /// `statusChanged` tells what a running camera lacks, and is empty while it lacks nothing.
     void startCamera();
     /// Closes the camera; safe when none is open. Does not wait for a frame being processed.
     void stopCamera();
@@ -73,6 +74,8 @@ public:
     void updateSettings(const AppSettings &settings);
     /// True when a camera exists and is active.
     bool isRunning() const;
+    /// Qt's identifier of the camera that is open, empty when none is.
+    QString openDevice() const;
     /// Time without a frame, 5 s unless set, after which a running camera is warned about, or given
     /// up where it answers with errors only. Takes effect at the next start.
     void setFrameTimeout(std::chrono::milliseconds timeout) { m_watchdog.setLimit(timeout); }
@@ -140,20 +143,28 @@ private:
     void onActiveChanged(bool active);
     void onCameraError(const QString &errorText);
     void onVideoInputsChanged();
-    void onFramesSilent();
-    void onFramesFailing();
+    void onDeviceGone();
 
     // Controls and what the camera can do (CameraController_controls.cpp)
     void createControlThread(std::shared_ptr<ICameraBackend> backend);
     void applyCameraControls(ControlWrites writes = ControlWrites::Changed);
     std::uint64_t applyFocusValue(int value);
-    std::uint64_t writeControls(const ControlRecord &record);
+    std::uint64_t writeControls(ControlRecord record);
     void setModesThroughQt(const ControlRecord &record);
     void setValuesThroughQt(const ControlRecord &record);
     void onControlsWritten(const ControlAnswer &answer);
     void startCapabilityProbe();
     void onCapabilitiesQueried(const CapabilityAnswer &answer);
     void deliverCapabilities(const CameraCapabilities &caps);
+
+    // What is said of a running camera (CameraController_status.cpp)
+    void onPicture();
+    void onFramesSilent();
+    void onFramesFailing();
+    void noteAnswer(const ControlAnswer &answer);
+    void beginStatus();
+    void endStatus();
+    void publishStatus();
 
     // The one-frame pipeline (CameraController_pipeline.cpp)
     void invalidateFramesInFlight();
@@ -188,11 +199,17 @@ private:
 
     QMediaDevices m_devices;
     QMediaCaptureSession m_session;
-    QCamera *m_camera = nullptr; ///< child of this; null while no camera is open
-    QCameraDevice m_device;      ///< what m_camera was opened on
+    QCamera *m_camera = nullptr;   ///< child of this; null while no camera is open
+    QCameraDevice m_device;        ///< what m_camera was opened on
+    std::uint64_t m_nodeStamp = 0; ///< of its node at that time
     QVideoSink m_sink;
     FrameWatchdog m_watchdog;
     AppSettings m_settings; ///< GUI thread only
+
+    enum class Picture { None, Awaited, Live, Missing };
+    Picture m_picture = Picture::None; ///< None while no camera runs
+    bool m_cameraAnswers = true;
+    QString m_status; ///< as told last
 
     ControlOrder m_controlOrder;
     std::unique_ptr<ControlThread> m_controlThread; ///< null without a backend
@@ -200,6 +217,7 @@ private:
     std::uint64_t m_writesOfOthers = 0; ///< up to here records went to a camera closed since
     bool m_capabilitiesQueried = false;
     std::uint64_t m_capabilitiesProbe = 0; ///< number of the question under way, 0 none
+    QString m_probedCamera;                ///< id of the camera that it is about
 
     std::thread m_processingThread;
     std::mutex m_pendingMutex; ///< guards the next four

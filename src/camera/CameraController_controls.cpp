@@ -8,6 +8,17 @@
 
 namespace meridax {
 
+namespace {
+
+/// The backend gets the device that streams, by the identifier of this moment.
+void addressTo(CameraSettings &settings, const QCameraDevice &device)
+{
+    settings.cameraId = QString::fromLatin1(device.id());
+    settings.cameraName = device.description();
+}
+
+} // namespace
+
 void CameraController::createControlThread(std::shared_ptr<ICameraBackend> backend)
 {
     if (!backend)
@@ -31,7 +42,7 @@ std::uint64_t CameraController::applyFocusValue(int value)
     return writeControls(record);
 }
 
-std::uint64_t CameraController::writeControls(const ControlRecord &record)
+std::uint64_t CameraController::writeControls(ControlRecord record)
 {
     if (!m_camera || deviceIsGone())
         return 0;
@@ -41,7 +52,8 @@ std::uint64_t CameraController::writeControls(const ControlRecord &record)
         setValuesThroughQt(record);
         return 0;
     }
-    m_lastWrite = m_controlThread->write(record);
+    addressTo(record.settings, m_device);
+    m_lastWrite = m_controlThread->write(std::move(record));
     return m_lastWrite;
 }
 
@@ -49,6 +61,7 @@ void CameraController::onControlsWritten(const ControlAnswer &answer)
 {
     if (answer.number <= m_writesOfOthers)
         return;
+    noteAnswer(answer);
     // Calls into a camera that hangs would hang as well, and on this thread.
     if (!answer.result.taken && !answer.result.noAnswer && !deviceIsGone()) {
         if (m_controlOrder == ControlOrder::BackendFirst)
@@ -87,10 +100,14 @@ void CameraController::setValuesThroughQt(const ControlRecord &record)
 
 void CameraController::startCapabilityProbe()
 {
-    if (m_controlThread)
-        m_capabilitiesProbe = m_controlThread->query(m_settings.camera);
-    else
+    if (!m_controlThread) {
         onCapabilitiesQueried({});
+        return;
+    }
+    m_probedCamera = m_settings.camera.cameraId;
+    CameraSettings asked = m_settings.camera;
+    addressTo(asked, m_device);
+    m_capabilitiesProbe = m_controlThread->query(asked);
 }
 
 void CameraController::onCapabilitiesQueried(const CapabilityAnswer &answer)
@@ -105,7 +122,7 @@ void CameraController::onCapabilitiesQueried(const CapabilityAnswer &answer)
         for (const QString &line : capabilityLogLines(answer.cameraName, answer.caps))
             qInfo().noquote() << line;
         // Another camera may be chosen already: this is none of its.
-        if (answer.cameraId == m_settings.camera.cameraId)
+        if (m_probedCamera == m_settings.camera.cameraId)
             deliverCapabilities(answer.caps);
     }
     m_capabilitiesProbe = 0;

@@ -5,7 +5,6 @@
 #include <QCamera>
 #include <QCameraFormat>
 #include <QDebug>
-#include <QFile>
 
 #include <utility>
 #include <vector>
@@ -21,7 +20,7 @@ void CameraController::startCamera()
     m_streaming = true;
 
     const QList<QCameraDevice> devices = QMediaDevices::videoInputs();
-    const qsizetype index = chooseDevice(devices, m_settings.camera);
+    const qsizetype index = chooseDevice(attachedCameras(devices), m_settings.camera);
     if (index < 0) {
         // The interface translates status texts at display; this one has no translation.
         emit errorOccurred(QStringLiteral("Keine passende Kamera gefunden."));
@@ -34,6 +33,7 @@ void CameraController::startCamera()
 void CameraController::openCamera(const QCameraDevice &device)
 {
     m_device = device;
+    m_nodeStamp = nodeStamp(QString::fromLatin1(device.id()));
     m_camera = new QCamera(device, this);
     m_session.setCamera(m_camera);
     // The format reaches the device only on a fresh or an active camera, never in between.
@@ -42,7 +42,12 @@ void CameraController::openCamera(const QCameraDevice &device)
     connect(m_camera, &QCamera::activeChanged, this, &CameraController::onActiveChanged);
     connect(m_camera, &QCamera::errorOccurred, this,
             [this](QCamera::Error, const QString &text) { onCameraError(text); });
-    m_camera->setActive(true);
+    // An error of the opening itself was raised before anyone listened, and an active camera
+    // without a device would follow (Qt 6.8).
+    if (m_camera->error() != QCamera::NoError)
+        onCameraError(m_camera->errorString());
+    else
+        m_camera->setActive(true);
 }
 
 void CameraController::stopCamera()
@@ -64,16 +69,20 @@ void CameraController::stopCamera()
     m_lastWidth = -1;
     m_lastHeight = -1;
     forgetBlobCount();
+    endStatus();
 }
 
 void CameraController::onActiveChanged(bool active)
 {
     emit runningChanged(active);
-    if (!active)
+    if (!active) {
         m_watchdog.stop();
+        endStatus();
+    }
     if (!active || !m_camera)
         return;
     m_watchdog.start();
+    beginStatus();
     // Once more, now on the running stream: some devices take no value before it runs, others
     // forget theirs at its start, behind the back of the driver.
     applyCameraControls(ControlWrites::All);
@@ -92,6 +101,9 @@ void CameraController::onCameraError(const QString &errorText)
 void CameraController::closeCameraAfterFailure()
 {
     m_watchdog.stop();
+    // What is told now is the failure.
+    m_picture = Picture::None;
+    m_status.clear();
     m_writesOfOthers = m_lastWrite;
     QCamera *const camera = std::exchange(m_camera, nullptr);
     if (!camera)
@@ -108,29 +120,19 @@ void CameraController::onVideoInputsChanged()
     // Qt reports an unplugged V4L2 camera here and nowhere else: the camera stays active, without
     // an error, and further control calls on it crash (Qt 6.8). So the stream ends here.
     if (m_camera && !QMediaDevices::videoInputs().contains(m_device))
-        onCameraError(QStringLiteral("Gerät nicht mehr vorhanden: %1").arg(m_device.description()));
+        onDeviceGone();
 }
 
-void CameraController::onFramesSilent()
+void CameraController::onDeviceGone()
 {
-    qWarning().noquote() << "[camera] Kein Bild seit"
-                         << QStringLiteral("%1 s:").arg(m_watchdog.limit().count() / 1000.0)
-                         << m_device.description();
-}
-
-void CameraController::onFramesFailing()
-{
-    // Qt only repeats a warning in this case, as fast as the processor can (V4L2, Qt 6.8): the
-    // window would stay slow, and the log would fill up.
-    onCameraError(QStringLiteral("Gerät meldet nur noch Fehler: %1").arg(m_device.description()));
+    onCameraError(QStringLiteral("Gerät nicht mehr vorhanden: %1").arg(m_device.description()));
 }
 
 bool CameraController::deviceIsGone() const
 {
-    // The notification of an unplugged device takes a moment. Ids that are device nodes can be
-    // asked directly, before a call into the dead camera.
-    const QString id = QString::fromLocal8Bit(m_device.id());
-    return id.startsWith(QLatin1Char('/')) && !QFile::exists(id);
+    // The notification of an unplugged device takes a moment, and is missing where the device came
+    // back in that moment. A node can be asked directly, before a call into the dead camera.
+    return nodeStamp(QString::fromLatin1(m_device.id())) != m_nodeStamp;
 }
 
 void CameraController::applyCameraFormat()

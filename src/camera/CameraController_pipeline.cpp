@@ -13,11 +13,12 @@ void CameraController::onVideoFrame(const QVideoFrame &frame)
 {
     if (!frame.isValid())
         return;
-    m_watchdog.frameArrived();
     const bool calibration = isCalibrationActive();
     // The drop decision comes before any pixel is touched.
-    if (m_frameInFlight.exchange(true))
+    if (m_frameInFlight.exchange(true)) {
+        m_watchdog.frameArrived();
         return;
+    }
 
     QImage image = frame.toImage();
     image.convertTo(QImage::Format_RGB888);
@@ -25,6 +26,7 @@ void CameraController::onVideoFrame(const QVideoFrame &frame)
         m_frameInFlight = false;
         return;
     }
+    onPicture();
     {
         const std::lock_guard lock(m_pendingMutex);
         m_pending = {std::move(image), m_settings, m_frameGeneration, calibration};

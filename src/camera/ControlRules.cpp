@@ -106,14 +106,4 @@ int chooseByNameOrPath(const std::vector<DeviceNames> &devices, const WantedDevi
     return exists ? wanted.index : -1;
 }
 
-int chooseByName(const std::vector<DeviceNames> &devices, const WantedDevice &wanted)
-{
-    const int fitting = firstFitting(devices, [&](const DeviceNames &device) {
-        return !wanted.name.empty() && device.name == wanted.name;
-    });
-    if (fitting >= 0)
-        return fitting;
-    return std::min(std::max(wanted.index, 0), static_cast<int>(devices.size()) - 1);
-}
-
 } // namespace meridax

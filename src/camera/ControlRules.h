@@ -74,9 +74,4 @@ bool idFitsPath(const std::wstring &id, const std::wstring &path);
 /// the one at the wanted index; -1 when that lies outside.
 int chooseByNameOrPath(const std::vector<DeviceNames> &devices, const WantedDevice &wanted);
 
-/// Position in `devices` of the first one of that name, else the one nearest to the wanted index;
-/// -1 when the list is empty. For platforms whose identifiers are device nodes, where a node that
-/// exists is opened without any search.
-int chooseByName(const std::vector<DeviceNames> &devices, const WantedDevice &wanted);
-
 } // namespace meridax

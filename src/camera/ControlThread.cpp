@@ -74,7 +74,6 @@ struct ControlThread::Shared
     {
         CapabilityAnswer answer;
         answer.number = order.number;
-        answer.cameraId = order.settings.cameraId;
         answer.cameraName = order.settings.cameraName;
         answer.any = backend->queryCameraCapabilities(order.settings, &answer.caps, nullptr);
         return answer;

@@ -35,7 +35,6 @@ struct ControlAnswer
 struct CapabilityAnswer
 {
     std::uint64_t number = 0; ///< as query() returned it
-    QString cameraId;
     QString cameraName;
     bool any = false; ///< `caps` holds at least one control
     CameraCapabilities caps;

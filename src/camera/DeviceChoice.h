@@ -1,27 +1,13 @@
 #pragma once
 
+#include "camera/CameraIdentity.h"
 #include "settings/AppSettings.h"
-
-#include <algorithm>
 
 namespace meridax {
 
-/// Index of the device in `devices` that `settings` mean, -1 when there is none: the first whose
-/// id fits, else the first whose name fits, else the one at the remembered index.
-/// `Device` has id() as QByteArray and description() as QString, like QCameraDevice.
-template <typename Device>
-qsizetype chooseDevice(const QList<Device> &devices, const CameraSettings &settings)
-{
-    const QByteArray id = settings.cameraId.toLatin1();
-    for (qsizetype i = 0; i < devices.size(); ++i) {
-        if (devices[i].id() == id)
-            return i;
-    }
-    for (qsizetype i = 0; i < devices.size(); ++i) {
-        if (devices[i].description() == settings.cameraName)
-            return i;
-    }
-    return std::min<qsizetype>(std::max(settings.cameraIndex, 0), devices.size() - 1);
-}
+/// Position in `cameras` of the one that `wanted` means: the first whose id fits, else the first
+/// whose name fits, ignoring case. A record that names no camera means the one nearest to its
+/// index. -1 when there is none: values are never given to some other camera.
+qsizetype chooseDevice(const QList<AttachedCamera> &cameras, const CameraSettings &wanted);
 
 } // namespace meridax

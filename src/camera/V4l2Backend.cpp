@@ -1,4 +1,5 @@
 #include "camera/V4l2Backend.h"
+#include "camera/DeviceChoice.h"
 #include "camera/V4l2Control.h"
 
 #include <QDebug>
@@ -50,29 +51,29 @@ std::optional<V4l2Device> opened(V4l2Device device, const QString &path, QString
 std::optional<V4l2Device> openByNameOrIndex(const CameraSettings &settings, QString *error)
 {
     std::vector<V4l2Device> devices;
-    std::vector<DeviceNames> names;
-    QStringList paths;
+    QList<AttachedCamera> cameras;
     // In the order of their names, as the camera list has them.
     const QStringList nodes = QDir(QStringLiteral("/dev"))
                                   .entryList({QStringLiteral("video*")}, QDir::System, QDir::Name);
     for (const QString &node : nodes) {
-        const QString path = QStringLiteral("/dev/") + node;
-        V4l2Device device(path);
+        AttachedCamera camera;
+        camera.id = camera.node = QStringLiteral("/dev/") + node;
+        V4l2Device device(camera.node);
         if (meansNoCamera(device.error()))
             continue;
-        names.push_back({device.name().toCaseFolded().toStdWString(), path.toStdWString()});
-        paths << path;
+        camera.name = device.name();
+        cameras << camera;
         devices.push_back(std::move(device));
     }
-    const int chosen =
-        chooseByName(names, {.name = settings.cameraName.toCaseFolded().toStdWString(),
-                             .id = {},
-                             .index = settings.cameraIndex});
+    const qsizetype chosen = chooseDevice(cameras, settings);
     if (chosen < 0) {
-        tell(error, QStringLiteral("Keine V4L2-Kameras gefunden."));
+        tell(error,
+             cameras.isEmpty()
+                 ? QStringLiteral("Keine V4L2-Kameras gefunden.")
+                 : QStringLiteral("V4L2-Kamera %1 nicht gefunden.").arg(settings.cameraName));
         return {};
     }
-    return opened(std::move(devices[static_cast<size_t>(chosen)]), paths[chosen], error);
+    return opened(std::move(devices[static_cast<size_t>(chosen)]), cameras[chosen].node, error);
 }
 
 std::optional<V4l2Device> openWanted(const CameraSettings &settings, QString *error)

@@ -7,9 +7,8 @@ namespace meridax {
 /// Camera controls on Linux, by the kernel's own interface. Each call opens the device for itself,
 /// beside the stream, and closes it again.
 ///
-/// The device is the node `cameraId` where it exists, else the first camera named `cameraName`
-/// ignoring case, else the one at `cameraIndex`. Exposure is in the driver's unit, for USB cameras
-/// 0.1 ms.
+/// The device is the node `cameraId` where it exists, else the one that chooseDevice() gives.
+/// Exposure is in the driver's unit, for USB cameras 0.1 ms.
 ///
 /// With ControlWrites::Changed a control that has the wanted value and mode already counts as taken
 /// and is not written, since each write is a slow transfer to the camera. Most readings are

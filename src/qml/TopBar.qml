@@ -13,7 +13,7 @@ Rectangle {
                                          : "%1  (%2)".arg(ViewModel.selectedCameraName)
                                                      .arg(ViewModel.frameInfo)
     readonly property string connectionText: {
-        if (ViewModel.running)
+        if (ViewModel.running && ViewModel.connected)
             return qsTr("Kamera verbunden");
         if (ViewModel.status !== "")
             return qsTranslate("meridax::CameraController", ViewModel.status);

@@ -1,5 +1,7 @@
 #include "viewmodel/CameraList.h"
 
+#include "camera/DeviceChoice.h"
+
 #include <QCameraFormat>
 
 #include <algorithm>
@@ -46,8 +48,10 @@ QList<CameraFormatInfo> foldFormats(const QList<CameraFormatInfo> &formats)
 
 QList<CameraDeviceInfo> listCameras(const QList<QCameraDevice> &devices)
 {
+    const QList<AttachedCamera> attached = attachedCameras(devices);
     QList<CameraDeviceInfo> cameras;
-    for (const QCameraDevice &device : devices) {
+    for (qsizetype i = 0; i < devices.size(); ++i) {
+        const QCameraDevice &device = devices[i];
         QList<CameraFormatInfo> formats;
         for (const QCameraFormat &format : device.videoFormats()) {
             const QSize size = format.resolution();
@@ -55,8 +59,10 @@ QList<CameraDeviceInfo> listCameras(const QList<QCameraDevice> &devices)
                 {size.width(), size.height(), format.minFrameRate(), format.maxFrameRate()});
         }
         CameraDeviceInfo camera;
-        camera.id = QString::fromLatin1(device.id());
-        camera.name = device.description();
+        camera.id = attached[i].id;
+        camera.name = attached[i].name;
+        camera.node = attached[i].node;
+        camera.isAnonymous = attached[i].byId.isEmpty() && attached[i].byPath.isEmpty();
         camera.formats = foldFormats(formats);
         cameras.append(camera);
     }
@@ -66,10 +72,16 @@ QList<CameraDeviceInfo> listCameras(const QList<QCameraDevice> &devices)
 int rememberedCameraIndex(const QList<CameraDeviceInfo> &cameras, const QString &id,
                           const QString &name)
 {
-    const auto found = std::ranges::find_if(cameras, [&](const CameraDeviceInfo &camera) {
-        return camera.id == id || camera.name == name;
-    });
-    return found == cameras.end() ? 0 : static_cast<int>(found - cameras.begin());
+    QList<AttachedCamera> attached;
+    for (const CameraDeviceInfo &camera : cameras) {
+        attached << AttachedCamera{};
+        attached.last().id = camera.id;
+        attached.last().name = camera.name;
+    }
+    CameraSettings wanted;
+    wanted.cameraId = id;
+    wanted.cameraName = name;
+    return static_cast<int>(std::max<qsizetype>(0, chooseDevice(attached, wanted)));
 }
 
 int nearestFormatIndex(const QList<CameraFormatInfo> &formats, const QSize &wanted)

@@ -22,11 +22,13 @@ struct CameraFormatInfo
 /// One camera as the interface lists it. The focus range is 0..0 until the running camera tells it.
 struct CameraDeviceInfo
 {
-    QString id;
+    QString id; ///< as in AttachedCamera
     QString name;
     QList<CameraFormatInfo> formats;
     int focusRangeMin = 0;
     int focusRangeMax = 0;
+    QString node = {};        ///< as in AttachedCamera
+    bool isAnonymous = false; ///< udev has no link to the node, or none yet
 
     bool operator==(const CameraDeviceInfo &) const = default;
 };
@@ -38,7 +40,7 @@ QList<CameraFormatInfo> foldFormats(const QList<CameraFormatInfo> &formats);
 /// The attached cameras in the order of `devices`, each with its folded formats.
 QList<CameraDeviceInfo> listCameras(const QList<QCameraDevice> &devices);
 
-/// Index of the first camera that has the id or the name; 0 when none has.
+/// Index of the camera that chooseDevice() gives, the first one where that is none.
 int rememberedCameraIndex(const QList<CameraDeviceInfo> &cameras, const QString &id,
                           const QString &name);
 

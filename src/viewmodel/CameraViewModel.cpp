@@ -39,8 +39,7 @@ CameraViewModel::CameraViewModel()
     connectController();
     connectCalibration();
     connectFocus();
-    connect(&m_mediaDevices, &QMediaDevices::videoInputsChanged, this,
-            &CameraViewModel::refreshCameras);
+    connectCameraList();
     refreshCameras();
     m_controller.updateSettings(m_settings);
     // The window comes first.
@@ -55,7 +54,10 @@ CameraViewModel::~CameraViewModel()
 
 void CameraViewModel::connectController()
 {
-    connect(&m_controller, &CameraController::statusChanged, this, &CameraViewModel::onStatus);
+    connect(&m_controller, &CameraController::statusChanged, this, [this](const QString &status) {
+        m_connected = status.isEmpty();
+        onStatus(status);
+    });
     connect(&m_controller, &CameraController::errorOccurred, this, &CameraViewModel::onStatus);
     connect(&m_controller, &CameraController::frameInfoChanged, this, [this](const QString &info) {
         m_frameInfo = info;
@@ -104,6 +106,7 @@ void CameraViewModel::onStatus(const QString &status)
 
 void CameraViewModel::onRunningChanged()
 {
+    m_connected = false;
     emit runningChanged();
     // The signal may be older than the controller's state.
     if (running()) {

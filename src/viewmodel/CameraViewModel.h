@@ -93,6 +93,8 @@ class CameraViewModel : public QObject
     // Live camera
     Q_PROPERTY(bool running READ running NOTIFY runningChanged)
     Q_PROPERTY(QString status READ status NOTIFY statusChanged)
+    /// A running camera sends pictures and answers.
+    Q_PROPERTY(bool connected READ connected NOTIFY statusChanged)
     Q_PROPERTY(QString frameInfo READ frameInfo NOTIFY frameInfoChanged)
     Q_PROPERTY(int blobCount READ blobCount NOTIFY blobCountChanged)
 
@@ -295,6 +297,7 @@ public:
 
     bool running() const { return m_controller.isRunning(); }
     QString status() const { return m_status; }
+    bool connected() const { return m_connected; }
     QString frameInfo() const { return m_frameInfo; }
     int blobCount() const { return m_blobCount; }
 
@@ -598,6 +601,10 @@ private:
     bool hasSelectedCamera() const;
     QSize resolution() const;
     void storeSelectedCamera();
+    void connectCameraList();
+    void awaitLinks();
+    void settleIdentities();
+    void takeOverFrom(const QString &node, const QString &id);
     void selectFormat(const CameraFormatInfo &format);
     void snapToNearestFormat();
     void applyResolutionChange(const QSize &oldSize, const QSize &newSize);
@@ -648,12 +655,15 @@ private:
     AppSettings m_settings;
     CameraCapabilities m_capabilities;
     QMediaDevices m_mediaDevices;
+    QTimer m_linkTimer;
+    int m_linkPatience = 0; ///< how often the timer may still start
 
     QList<CameraDeviceInfo> m_cameras;
     QStringList m_cameraNames;
     int m_selectedCameraIndex = 0;
 
     QString m_status;
+    bool m_connected = false;
     QString m_frameInfo;
     int m_blobCount = 0;
 

@@ -34,6 +34,7 @@ void CameraViewModel::stopCamera()
 void CameraViewModel::refreshCameras()
 {
     m_cameras = listCameras(QMediaDevices::videoInputs());
+    settleIdentities();
     m_cameraNames.clear();
     qInfo() << "[CameraEnumeration] devices found:" << m_cameras.size();
     for (const CameraDeviceInfo &camera : std::as_const(m_cameras)) {
@@ -122,11 +123,14 @@ void CameraViewModel::storeSelectedCamera()
 {
     const CameraDeviceInfo &device = m_cameras.at(m_selectedCameraIndex);
     CameraSettings &camera = m_settings.camera;
+    // The running camera has told its range, and is only listed anew.
+    if (camera.cameraId != device.id || !running()) {
+        camera.focusRangeMin = device.focusRangeMin;
+        camera.focusRangeMax = device.focusRangeMax;
+    }
     camera.cameraName = device.name;
     camera.cameraId = device.id;
     camera.cameraIndex = m_selectedCameraIndex;
-    camera.focusRangeMin = device.focusRangeMin;
-    camera.focusRangeMax = device.focusRangeMax;
 }
 
 void CameraViewModel::selectFormat(const CameraFormatInfo &format)

@@ -2,12 +2,43 @@
 #include "SignalRecorder.h"
 #include "camera/CameraController.h"
 
+#include <QElapsedTimer>
 #include <QMediaDevices>
 #include <QProcess>
 #include <QTest>
 
 using namespace meridax;
 using namespace std::chrono_literals;
+
+namespace {
+
+/// A backend that takes or refuses all and touches no camera.
+class IdleBackend : public ICameraBackend
+{
+public:
+    explicit IdleBackend(bool takes)
+        : m_takes(takes)
+    {
+    }
+
+    ApplyResult applySettings(const CameraSettings &, ControlWrites, QString *) override
+    {
+        ++calls;
+        return {.taken = m_takes};
+    }
+
+    bool queryCameraCapabilities(const CameraSettings &, CameraCapabilities *, QString *) override
+    {
+        return true;
+    }
+
+    std::atomic<int> calls = 0;
+
+private:
+    const bool m_takes;
+};
+
+} // namespace
 
 // Against the simulated camera, which Qt Multimedia takes for a USB camera.
 class TestCameraController : public QObject
@@ -21,8 +52,10 @@ private slots:
         if (QMediaDevices::videoInputs().isEmpty())
             simcam({QStringLiteral("plug")});
         simcam({QStringLiteral("set"), QStringLiteral("controls=2"), QStringLiteral("stall=0"),
-                QStringLiteral("dqbuf-errno=0")});
+                QStringLiteral("dqbuf-errno=0"), QStringLiteral("control-hang=0"),
+                QStringLiteral("streamon-errno=0")});
         QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
+        QTRY_VERIFY(!ControlThread::anyLeftBehind());
     }
 
     void streamsInTheChosenFormatAndStops()
@@ -174,6 +207,7 @@ private slots:
     void silentCameraIsWarnedAboutOnce()
     {
         CameraController controller;
+        const SignalRecorder statuses(&controller, &CameraController::statusChanged);
         const SignalRecorder frames(&controller, &CameraController::frameReady);
         controller.updateSettings(settingsFor(640, 480));
         controller.setFrameTimeout(300ms);
@@ -191,6 +225,10 @@ private slots:
         simcam({QStringLiteral("set"), QStringLiteral("stall=1")});
         QTRY_COMPARE(warnings.lines().size(), 2);
         controller.stopCamera();
+        const QList<QVariantList> told{{"Kamera startet…"},          {""},
+                                       {"Kamera liefert kein Bild"}, {""},
+                                       {"Kamera liefert kein Bild"}, {""}};
+        QCOMPARE(static_cast<const QList<QVariantList> &>(statuses), told);
     }
 
     void failingCameraIsGivenUp()
@@ -214,6 +252,124 @@ private slots:
         const qsizetype before = frames.size();
         controller.startCamera();
         QTRY_VERIFY(frames.size() > before);
+    }
+
+    // Qt calls both of them active (6.8).
+    void startsWithoutAPictureAreTold()
+    {
+        CameraController controller;
+        const SignalRecorder statuses(&controller, &CameraController::statusChanged);
+        const SignalRecorder errors(&controller, &CameraController::errorOccurred);
+        controller.setFrameTimeout(300ms);
+        const MessageRecorder warnings(QtWarningMsg);
+        simcam({QStringLiteral("set"), QStringLiteral("streamon-errno=ENOSPC")});
+        controller.startCamera();
+        QTRY_VERIFY(!statuses.isEmpty());
+        QTRY_COMPARE(statuses.last(), QVariantList{"Kamera liefert kein Bild"});
+        controller.stopCamera();
+
+        simcam({QStringLiteral("set"), QStringLiteral("streamon-errno=0"),
+                QStringLiteral("open-errno=EACCES")});
+        const qsizetype before = statuses.size();
+        controller.startCamera();
+        simcam({QStringLiteral("set"), QStringLiteral("open-errno=0")});
+        QCOMPARE(errors.size(), 1);
+        QVERIFY(!controller.isRunning());
+        QCOMPARE(statuses.size(), before);
+    }
+
+    // The camera list is equal before and after, so that Qt tells nothing.
+    void pluggedAnewUnnoticedIsTheEndOfTheStream()
+    {
+        CameraController controller;
+        const SignalRecorder errors(&controller, &CameraController::errorOccurred);
+        controller.setFrameTimeout(300ms);
+        controller.startCamera();
+        QTRY_VERIFY(!controller.latestFrame().isNull());
+        const MessageRecorder warnings(QtWarningMsg);
+        unplugBetweenFrames();
+        simcam({QStringLiteral("plug")});
+        QTRY_COMPARE(errors.size(), 1);
+        QVERIFY(!controller.isRunning());
+    }
+
+    void aCameraThatHangsHoldsUpNothing()
+    {
+        auto controller = std::make_unique<CameraController>();
+        const SignalRecorder statuses(controller.get(), &CameraController::statusChanged);
+        AppSettings settings = settingsFor(640, 480);
+        controller->updateSettings(settings);
+        controller->startCamera();
+        QTRY_VERIFY(!controller->latestFrame().isNull());
+        QTRY_COMPARE(statuses.last(), QVariantList{""});
+        const MessageRecorder warnings(QtWarningMsg);
+        const auto brightness = [&](int value) {
+            settings.camera.brightness = value;
+            QElapsedTimer clock;
+            clock.start();
+            controller->updateSettings(settings);
+            return std::chrono::milliseconds(clock.elapsed());
+        };
+
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0.4"),
+                QStringLiteral("hang-errno=ETIMEDOUT")});
+        QVERIFY(brightness(10) < 300ms);
+        QTRY_COMPARE(statuses.last(), QVariantList{"Kamera antwortet nicht"});
+        QVERIFY(warnings.lines().first().startsWith(
+            "[camera] V4L2-Kamera Meridax Simulated Camera antwortet nicht: "));
+        QVERIFY2(controller->isRunning(), "the picture goes on");
+
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0")});
+        brightness(20);
+        QTRY_COMPARE(statuses.last(), QVariantList{""});
+        QTRY_COMPARE(control("brightness"), 20);
+
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=60")});
+        const int calls = controlCalls();
+        QVERIFY(brightness(30) < 300ms);
+        QTRY_VERIFY(controlCalls() > calls);
+        QElapsedTimer clock;
+        clock.start();
+        controller->stopCamera();
+        controller.reset();
+        QVERIFY(std::chrono::milliseconds(clock.elapsed()) < 2000ms);
+        QVERIFY(ControlThread::anyLeftBehind());
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0")});
+        QTRY_VERIFY(!ControlThread::anyLeftBehind());
+    }
+
+    void ordersOfBackendAndQt_data()
+    {
+        QTest::addColumn<bool>("isFirst");
+        QTest::addColumn<bool>("takes");
+        QTest::addColumn<bool>("qtWrites");
+        QTest::newRow("backend first, takes") << true << true << false;
+        QTest::newRow("backend first, refuses") << true << false << true;
+        QTest::newRow("Qt first, backend takes") << false << true << true;
+        QTest::newRow("Qt first, backend refuses") << false << false << true;
+    }
+
+    void ordersOfBackendAndQt()
+    {
+        QFETCH(bool, isFirst);
+        QFETCH(bool, takes);
+        QFETCH(bool, qtWrites);
+        simcam({QStringLiteral("unplug")}); // for the values of a camera just switched on
+        QTRY_VERIFY(QMediaDevices::videoInputs().isEmpty());
+        simcam({QStringLiteral("plug")});
+        QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
+        const auto backend = std::make_shared<IdleBackend>(takes);
+        CameraController controller(
+            nullptr, {backend, isFirst ? ControlOrder::BackendFirst : ControlOrder::QtFirst});
+        const SignalRecorder caps(&controller, &CameraController::cameraCapabilitiesDetected);
+        AppSettings settings = settingsFor(640, 480);
+        settings.camera.focusValue = 40;
+        controller.updateSettings(settings);
+        controller.startCamera();
+        QTRY_VERIFY(!controller.latestFrame().isNull());
+        QTRY_COMPARE(caps.size(), 1); // follows the last write
+        QVERIFY(backend->calls > 0);
+        QTRY_COMPARE(control("focus_automatic_continuous"), qtWrites ? 0 : 1);
     }
 
     // What Qt's camera class makes of the same values on V4L2 must not reach the device.
@@ -273,6 +429,11 @@ private:
     {
         return simcam({QStringLiteral("get"), QStringLiteral("control.") + QLatin1String(name)})
             .toInt();
+    }
+
+    static int controlCalls()
+    {
+        return simcam({QStringLiteral("get"), QStringLiteral("control-calls")}).toInt();
     }
 
     static AppSettings settingsFor(int width, int height)

@@ -100,18 +100,17 @@ private slots:
         QTest::addColumn<QString>("id");
         QTest::addColumn<int>("index");
         QTest::addColumn<int>("byNameOrPath");
-        QTest::addColumn<int>("byName");
         const auto path = QString::fromStdWString(usbPath);
         // Of three: "a", "b", "b".
-        QTest::newRow("name") << "b" << "" << 0 << 1 << 1;
-        QTest::newRow("path beats index") << "" << path + "c" << 0 << 2 << 0;
-        QTest::newRow("path behind a prefix") << "" << "@device:pnp:" + path + "c" << 0 << 2 << 0;
-        QTest::newRow("part of the path") << "" << "0001#6&1c" << 0 << 2 << 0;
-        QTest::newRow("first that fits either way") << "a" << path + "c" << 1 << 0 << 0;
-        QTest::newRow("neither") << "x" << "y" << 1 << 1 << 1;
-        QTest::newRow("no texts") << "" << "" << 2 << 2 << 2;
-        QTest::newRow("index beyond the list") << "" << "" << 3 << -1 << 2;
-        QTest::newRow("negative index") << "" << "" << -1 << -1 << 0;
+        QTest::newRow("name") << "b" << "" << 0 << 1;
+        QTest::newRow("path beats index") << "" << path + "c" << 0 << 2;
+        QTest::newRow("path behind a prefix") << "" << "@device:pnp:" + path + "c" << 0 << 2;
+        QTest::newRow("part of the path") << "" << "0001#6&1c" << 0 << 2;
+        QTest::newRow("first that fits either way") << "a" << path + "c" << 1 << 0;
+        QTest::newRow("neither") << "x" << "y" << 1 << 1;
+        QTest::newRow("no texts") << "" << "" << 2 << 2;
+        QTest::newRow("index beyond the list") << "" << "" << 3 << -1;
+        QTest::newRow("negative index") << "" << "" << -1 << -1;
     }
 
     void devices()
@@ -123,9 +122,7 @@ private slots:
         const std::vector<DeviceNames> three{
             {L"a", usbPath + L"a"}, {L"b", usbPath + L"b"}, {L"b", usbPath + L"c"}};
         QTEST(chooseByNameOrPath(three, wanted), "byNameOrPath");
-        QTEST(chooseByName(three, wanted), "byName");
         QCOMPARE(chooseByNameOrPath({}, wanted), -1);
-        QCOMPARE(chooseByName({}, wanted), -1);
     }
 };
 

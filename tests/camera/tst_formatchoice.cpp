@@ -1,5 +1,4 @@
 #include "camera/CameraScales.h"
-#include "camera/DeviceChoice.h"
 #include "camera/FormatChoice.h"
 
 #include <QTest>
@@ -9,15 +8,6 @@
 using namespace meridax;
 
 namespace {
-
-struct Device
-{
-    QByteArray deviceId;
-    QString name;
-
-    QByteArray id() const { return deviceId; }
-    QString description() const { return name; }
-};
 
 using Formats = std::vector<FormatCandidate>;
 
@@ -68,23 +58,6 @@ private slots:
         QFETCH(Formats, formats);
         QFETCH(QSize, wanted);
         QTEST(chooseFormat(formats, wanted), "expected");
-    }
-
-    void choosesTheDeviceByIdThenNameThenIndex()
-    {
-        const QList<Device> devices{{"/dev/video0", "Webcam"}, {"/dev/video2", "Sucher"}};
-        CameraSettings wanted;
-        wanted.cameraId = QStringLiteral("/dev/video2");
-        wanted.cameraName = QStringLiteral("Webcam");
-        QCOMPARE(chooseDevice(devices, wanted), 1);
-        wanted.cameraId = QStringLiteral("/dev/video9");
-        QCOMPARE(chooseDevice(devices, wanted), 0);
-        wanted.cameraName.clear();
-        wanted.cameraIndex = 7;
-        QCOMPARE(chooseDevice(devices, wanted), 1);
-        wanted.cameraIndex = -3;
-        QCOMPARE(chooseDevice(devices, wanted), 0);
-        QCOMPARE(chooseDevice(QList<Device>{}, wanted), -1);
     }
 
     void scalesOfQtsInterface()

@@ -187,6 +187,40 @@ private slots:
         QTRY_COMPARE(QMediaDevices::videoInputs().size(), 1);
     }
 
+    void endsWhenTheCameraDoesNotAnswer()
+    {
+        CameraController controller;
+        controller.updateSettings(settingsFor(640, 480));
+        QVERIFY(start(controller));
+        const SignalRecorder progress(&controller, &CameraController::focusSweepProgress);
+        const SignalRecorder finished(&controller, &CameraController::focusSweepFinished);
+        controller.startFocusSweep(mark().x(), mark().y());
+        QTRY_VERIFY(progress.size() >= 2);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("antwortet nicht: ")));
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0.5"),
+                QStringLiteral("hang-errno=ETIMEDOUT")});
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(finished[0], (QVariantList{77, 2}));
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0")});
+    }
+
+    // Frames that were exposed before the lens has been told where to go say nothing.
+    void waitsForASlowCamera()
+    {
+        CameraController controller;
+        controller.updateSettings(settingsFor(640, 480));
+        QVERIFY(start(controller));
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0.05"),
+                QStringLiteral("hang-errno=0")});
+        const SignalRecorder finished(&controller, &CameraController::focusSweepFinished);
+        controller.startFocusSweep(mark().x(), mark().y());
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
+        simcam({QStringLiteral("set"), QStringLiteral("control-hang=0")});
+        QCOMPARE(finished[0][1].toInt(), 0);
+        QVERIFY2(std::abs(finished[0][0].toInt() - 380) <= std::ceil(1023 / 11 / 4.0),
+                 qPrintable(finished[0][0].toString()));
+    }
+
     void withoutARange()
     {
         CameraController controller;

@@ -219,7 +219,7 @@ private slots:
 
     void refusedWrites()
     {
-        set(QStringLiteral("control-errno=EIO"));
+        set(QStringLiteral("control-errno=EACCES"));
         QTest::ignoreMessage(
             QtInfoMsg,
             QRegularExpression(QStringLiteral("prop=%1 requested=5 flagsUsed=2 setHR=FAIL "
@@ -227,6 +227,31 @@ private slots:
                                    .arg(V4L2_CID_GAIN)));
         QVERIFY(!apply(manualSettings()));
         QCOMPARE(V4l2Client().control(V4L2_CID_FOCUS_AUTO), 1);
+    }
+
+    void noAnswerEndsTheRound_data()
+    {
+        QTest::addColumn<QString>("error");
+        QTest::addColumn<bool>("ends");
+        for (const auto *const error : {"ETIMEDOUT", "EIO", "EPROTO", "ENODEV"})
+            QTest::newRow(error) << error << true;
+        QTest::newRow("EACCES") << "EACCES" << false;
+    }
+
+    void noAnswerEndsTheRound()
+    {
+        QFETCH(QString, error);
+        QFETCH(bool, ends);
+        set(QStringLiteral("control-errno=") + error);
+        const int before = counter("control-calls");
+        QString text;
+        const ApplyResult result =
+            m_backend.applySettings(manualSettings(), ControlWrites::All, &text);
+        QVERIFY(!result.taken);
+        QCOMPARE(result.noAnswer, ends);
+        QCOMPARE(text.startsWith("V4L2-Kamera Meridax Simulated Camera antwortet nicht: "), ends);
+        const int calls = counter("control-calls") - before;
+        QVERIFY2((calls < 8) == ends, qPrintable(QString::number(calls)));
     }
 
     void rangesUnknown()
@@ -261,7 +286,6 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<int>("index");
         QTest::addColumn<QByteArray>("node");
-        const QByteArray first("/dev/video0");
         const QByteArray second("/dev/video4");
         QTest::newRow("id before name")
             << "/dev/video4" << "Meridax Simulated Camera" << 0 << second;
@@ -269,7 +293,7 @@ private slots:
         QTest::newRow("name, id gone") << "/dev/video9" << "Caméra Ω" << 0 << second;
         QTest::newRow("name, id of the metadata") << "/dev/video1" << "Caméra Ω" << 0 << second;
         QTest::newRow("index") << "" << "" << 1 << second;
-        QTest::newRow("index, name unknown") << "" << "Other" << 0 << first;
+        QTest::newRow("none, name unknown") << "" << "Other" << 0 << QByteArray();
         QTest::newRow("last, index too large") << "" << "" << 7 << second;
     }
 
@@ -284,7 +308,7 @@ private slots:
         settings.cameraId = id;
         settings.cameraName = name;
         settings.cameraIndex = index;
-        QVERIFY(apply(settings));
+        QCOMPARE(apply(settings), !node.isEmpty());
         for (const auto *const path : {"/dev/video0", "/dev/video4"})
             QCOMPARE(V4l2Client(path).control(V4L2_CID_GAIN), path == node ? settings.gain : 0);
     }
@@ -322,7 +346,7 @@ private:
     bool apply(const CameraSettings &settings, ControlWrites writes = ControlWrites::Changed,
                QString *error = nullptr)
     {
-        return m_backend.applySettings(settings, writes, error);
+        return bool(m_backend.applySettings(settings, writes, error));
     }
 
     V4l2Backend m_backend;

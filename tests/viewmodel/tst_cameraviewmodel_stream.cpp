@@ -45,7 +45,64 @@ private slots:
         QVERIFY(!viewModel->offsetEnabled());
         QVERIFY(viewModel->resolutionMinX() < viewModel->resolutionMaxX());
         viewModel.reset();
-        QCOMPARE(loadSettings().camera.cameraId, QString::fromLatin1(device.id()));
+        QCOMPARE(loadSettings().camera.cameraId,
+                 "/dev/v4l/by-id/usb-Meridax_Simulated_Camera-video-index0");
+    }
+
+    // Which node a camera gets depends on what was plugged in before it.
+    void whatIsStoredStaysWithItsCamera_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("same");
+        const QString name = QStringLiteral("Meridax Simulated Camera");
+        QTest::newRow("file of an earlier version") << "/dev/video0" << name << true;
+        QTest::newRow("another camera at the old node") << "/dev/video0" << "Okular" << false;
+        QTest::newRow("plugged in elsewhere")
+            << "/dev/v4l/by-id/usb-Meridax_Simulated_Camera-video-index0" << name << true;
+    }
+
+    void whatIsStoredStaysWithItsCamera()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, name);
+        QFETCH(bool, same);
+        AppSettings settings;
+        settings.camera.cameraId = id;
+        settings.camera.cameraName = name;
+        settings.camera.brightness = 17;
+        settings.camera.locked = true;
+        settings.cameraProfiles[id].restoreOnConnect = true;
+        const auto viewModel = fixture::startWith(settings);
+        QCOMPARE(viewModel->brightness(), same ? 17 : 0);
+        QCOMPARE(viewModel->locked(), same);
+        QCOMPARE(viewModel->profileRestoreOnConnect(), same);
+    }
+
+    void aSecondCameraChangesNothingOfTheRunningOne_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("another") << "Zweite";
+        QTest::newRow("twin") << "Meridax Simulated Camera";
+    }
+
+    void aSecondCameraChangesNothingOfTheRunningOne()
+    {
+        QFETCH(QString, name);
+        const auto viewModel = fixture::firstStart();
+        viewModel->setBrightness(30);
+        viewModel->startCamera();
+        QTRY_COMPARE(viewModel->focusRangeMax(), 1023);
+        emit viewModel->controller()->calibrationCompleted(QPointF(10, 20));
+        viewModel->acceptPendingCenter();
+        fixture::simcam({"plug", "--new", "--node", "video40", "--name", name});
+        const auto unplug = qScopeGuard([] { fixture::simcam({"unplug", "--node", "video40"}); });
+        QTRY_COMPARE(viewModel->cameraNames().size(), 2);
+        QCOMPARE(viewModel->focusRangeMax(), 1023);
+        QCOMPARE(viewModel->brightness(), 30);
+        QVERIFY(viewModel->calibrated() && viewModel->locked());
+        QVERIFY(viewModel->running());
+        viewModel->stopCamera();
     }
 
     void resolutionChangeDropsTheCalibration()
@@ -148,6 +205,7 @@ private slots:
         QTRY_VERIFY(viewModel->running());
         QTRY_COMPARE(viewModel->frameInfo(), "640 x 480");
         QVERIFY(viewModel->status().isEmpty());
+        QVERIFY(viewModel->connected());
         QTRY_VERIFY(frames.size() >= 3);
 
         viewModel->setSelectedResolutionIndex(

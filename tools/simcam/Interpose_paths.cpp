@@ -19,6 +19,15 @@ namespace {
 
 constexpr unsigned kVideoMajor = 81;
 
+/// Another number with each device that is plugged in at the node.
+ino_t stampOf(int number)
+{
+    const std::string file = nodeFile(simulationDir(), "video" + std::to_string(number));
+    struct statx st{};
+    ::syscall(SYS_statx, AT_FDCWD, file.c_str(), 0, STATX_BASIC_STATS, &st);
+    return st.stx_ino * 1000003 + st.stx_ctime.tv_nsec;
+}
+
 /// What stat says of node number `number`: a character device. Both stat types have one layout.
 template <typename Stat>
 void describeNode(int number, Stat &st)
@@ -26,7 +35,7 @@ void describeNode(int number, Stat &st)
     st = {};
     st.st_mode = S_IFCHR | 0660;
     st.st_nlink = 1;
-    st.st_ino = ino_t(9000 + number);
+    st.st_ino = stampOf(number);
     st.st_rdev = makedev(kVideoMajor, unsigned(number));
     st.st_blksize = 4096;
 }
@@ -143,6 +152,12 @@ EXPORTED DIR *opendir(const char *path)
 {
     NEXT(opendir);
     return next(redirected(path).c_str());
+}
+
+EXPORTED ssize_t readlink(const char *path, char *buffer, size_t size)
+{
+    return static_cast<ssize_t>(
+        ::syscall(SYS_readlinkat, AT_FDCWD, redirected(path).c_str(), buffer, size));
 }
 
 EXPORTED int inotify_add_watch(int fd, const char *path, uint32_t mask)

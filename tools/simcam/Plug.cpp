@@ -3,6 +3,7 @@
 #include "Controls.h"
 #include "DeviceFormats.h"
 #include "Geometry.h"
+#include "Links.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -107,6 +108,9 @@ unsigned chooseNumber(const std::string &dir, const PlugOptions &options)
 void publish(const std::string &dir, const std::string &temporary, const std::string &node)
 {
     fs::rename(temporary, stateFile(dir, node));
+    std::vector<std::string> cameras = pluggedCameras(dir);
+    cameras.push_back(node);
+    updateLinks(dir, cameras);
     if (::mkfifo(nodeFile(dir, node).c_str(), 0666) < 0)
         failWith(nodeFile(dir, node));
 }
@@ -195,6 +199,9 @@ void unplug(const std::string &dir, const std::string &node)
         fs::remove(stateFile(dir, metadata), error);
     }
     fs::rename(stateFile(dir, node), unpluggedFile(dir), error);
+    std::vector<std::string> others = pluggedCameras(dir);
+    std::erase(others, node);
+    updateLinks(dir, others);
     // Last, because this is what programs watch for.
     fs::remove(nodeFile(dir, node), error);
 }

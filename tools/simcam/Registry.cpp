@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
+#include <string_view>
 #include <sys/eventfd.h>
 
 namespace meridax::simcam {
@@ -78,9 +79,15 @@ bool isPlugged(const char *node)
 
 std::string redirected(const char *path)
 {
-    const bool isDev = path && (!std::strcmp(path, "/dev") || !std::strcmp(path, "/dev/"));
-    return isDev && simulationDir() ? std::string(simulationDir()) + "/dev"
-                                    : std::string(path ? path : "");
+    const std::string_view asked = path ? path : "";
+    if (!simulationDir())
+        return std::string(asked);
+    if (asked == "/dev" || asked == "/dev/")
+        return std::string(simulationDir()) + "/dev";
+    constexpr std::string_view kLinks = "/dev/v4l";
+    if (asked.starts_with(kLinks))
+        return linkFolder(simulationDir()) + std::string(asked.substr(kLinks.size()));
+    return std::string(asked);
 }
 
 Handle *handleOf(int fd)

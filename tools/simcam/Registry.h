@@ -16,7 +16,7 @@ const char *nodeName(const char *path);
 /// True if the node is plugged in.
 bool isPlugged(const char *node);
 
-/// `path`, or for "/dev" the directory that stands for it.
+/// `path`, or for "/dev" and what lies in "/dev/v4l" the place that stands for it.
 std::string redirected(const char *path);
 
 /// The handle of a descriptor that openNode() made, else null. Never blocks and allocates nothing,

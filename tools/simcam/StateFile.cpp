@@ -57,4 +57,9 @@ std::string stateFile(const std::string &dir, const std::string &node)
     return dir + '/' + node + ".state";
 }
 
+std::string linkFolder(const std::string &dir)
+{
+    return dir + "/v4l";
+}
+
 } // namespace meridax::simcam

@@ -64,5 +64,7 @@ std::uint32_t monotonicMs();
 /// Paths in the directory of the simulated devices.
 std::string nodeFile(const std::string &dir, const std::string &node);
 std::string stateFile(const std::string &dir, const std::string &node);
+/// What stands for /dev/v4l.
+std::string linkFolder(const std::string &dir);
 
 } // namespace meridax::simcam
