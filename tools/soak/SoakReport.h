@@ -26,7 +26,7 @@ public:
     /// A picture has to be back within this, on a machine that does nothing else: what others take
     /// of the processor is not counted.
     static constexpr std::chrono::milliseconds backLimit{3000};
-    /// Between the first and the last third of all cycles.
+    /// Between the second and the last third of all cycles.
     static constexpr qint64 growthLimitBytes = 48LL << 20;
     /// Memory of fewer cycles than these says nothing: caches are still filling up.
     static constexpr int fewestCyclesForMemory = 60;
