@@ -25,6 +25,9 @@ CameraViewModel::CameraViewModel()
     loadCachedLegalDocuments();
     connectServer();
     m_settings = loadSettings();
+    // The file holds what was folded in the last run, whether it is to be remembered or not.
+    if (!m_settings.rememberCollapsedSections)
+        m_settings.collapsedSections.clear();
     // A centre in pixels counts only for the camera and resolution it was measured with, which
     // nobody knows before the camera runs. The lock is the user's own and stays.
     CameraSettings &camera = m_settings.camera;

@@ -85,9 +85,13 @@ private slots:
         QTRY_VERIFY(fixture::fileExists());
         QVERIFY(loadSettings().collapsedSections.isEmpty());
 
-        // Still kept while the program runs, but no reason to write the file.
+        // Still kept while the program runs, and gone at the next start.
         m_viewModel->setSectionCollapsed("blob", true);
         QVERIFY(m_viewModel->sectionCollapsed("blob", false));
+        m_viewModel.reset();
+        m_viewModel.reset(CameraViewModel::create(nullptr, nullptr));
+        QVERIFY(!m_viewModel->rememberCollapsedSections());
+        QVERIFY(!m_viewModel->sectionCollapsed("blob", false));
     }
 
     void languageReplacesTheStartupTranslator()
