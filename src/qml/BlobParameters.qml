@@ -6,6 +6,7 @@ ColumnLayout {
     spacing: 4
 
     SettingsSlider {
+        objectName: "minThreshold"
         Layout.fillWidth: true
         label: qsTr("Min Threshold")
         tooltipText: qsTr("Untere Helligkeits-Grenze für die Punkt-Erkennung. Pixel darunter werden ignoriert.")
@@ -17,6 +18,7 @@ ColumnLayout {
     }
 
     SettingsSlider {
+        objectName: "maxThreshold"
         Layout.fillWidth: true
         label: qsTr("Max Threshold")
         tooltipText: qsTr("Obere Helligkeits-Grenze für die Punkt-Erkennung. Pixel darüber werden ignoriert.")
@@ -36,6 +38,7 @@ ColumnLayout {
     }
 
     SettingsSlider {
+        objectName: "minArea"
         Layout.fillWidth: true
         label: qsTr("Min Area")
         tooltipText: qsTr("Kleinste bzw. größte erlaubte Pixelfläche eines erkannten Punkts.")
@@ -48,6 +51,7 @@ ColumnLayout {
     }
 
     SettingsSlider {
+        objectName: "maxArea"
         Layout.fillWidth: true
         label: qsTr("Max Area")
         tooltipText: qsTr("Kleinste bzw. größte erlaubte Pixelfläche eines erkannten Punkts.")
@@ -79,6 +83,7 @@ ColumnLayout {
     }
 
     HelpSwitch {
+        objectName: "filterInertia"
         label: qsTr("Filter Inertia")
         tooltipText: qsTr("Filtert nach Form-Symmetrie. Schließt langgestreckte oder elliptische Flecken aus.")
         checked: ViewModel.blobFilterInertia
@@ -86,6 +91,7 @@ ColumnLayout {
     }
 
     SettingsSlider {
+        objectName: "minInertia"
         Layout.fillWidth: true
         label: qsTr("Min Inertia")
         tooltipText: qsTr("Wie symmetrisch ein Punkt mindestens sein muss. 0 = beliebig, 100 = perfekt symmetrisch.")

@@ -80,6 +80,7 @@ ColumnLayout {
                 objectName: "chevron"
                 expanded: root.expanded
                 title: root.title
+                animated: root._animated
                 onClicked: root.toggle()
             }
 

@@ -12,7 +12,6 @@ SpinBox {
     /// The user's choice, by hand, key or assistive technology, which writes the value itself.
     signal chosen(newValue: int)
 
-
     implicitWidth: 120
     implicitHeight: 36
     topPadding: 0
@@ -22,10 +21,14 @@ SpinBox {
 
     Accessible.role: Accessible.SpinBox
 
+    // What is beyond the range is only shown at its end.
     onValueChanged: {
-        if (_ready && value !== shownValue)
+        const bounded = Math.max(from, Math.min(to, shownValue));
+        if (_ready && value !== shownValue && value !== bounded)
             chosen(value);
     }
+    // An emptied field takes nothing; by itself it would take the least.
+    valueFromText: (text, locale) => text === "" ? value : Number.fromLocaleString(locale, text)
     Component.onCompleted: _ready = true
 
     Binding {

@@ -107,7 +107,9 @@ Item {
 
         objectName: "focusToast"
         x: Math.max(0, Math.min(root.width - width, root.tapPoint.x - width / 2))
-        y: root.tapPoint.y + 26
+        // The status bar lies over the lower edge of the picture.
+        y: root.tapPoint.y + 26 + height < root.height - 32 ? root.tapPoint.y + 26
+                                                            : root.tapPoint.y - 26 - height
         color: Qt.rgba(0, 0, 0, 0.82)
         border {
             width: 1

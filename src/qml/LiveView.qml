@@ -54,8 +54,11 @@ Item {
 
         WheelHandler {
             acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-            onWheel: event => captureArea.setZoom(ViewModel.zoom
-                                                  + (event.angleDelta.y > 0 ? 0.05 : -0.05))
+            // Sideways, and at the end of a gesture, there is nothing to zoom by.
+            onWheel: event => {
+                if (event.angleDelta.y !== 0)
+                    captureArea.setZoom(ViewModel.zoom + (event.angleDelta.y > 0 ? 0.05 : -0.05));
+            }
         }
     }
 

@@ -6,88 +6,16 @@ import Meridax
 ApplicationWindow {
     id: root
 
+    // Constant, as the saved values are for QML. So the bindings of the size are evaluated once.
     readonly property int savedWidth: ViewModel.savedWindowWidth > 0 ? ViewModel.savedWindowWidth
                                                                      : 1600
     readonly property int savedHeight: ViewModel.savedWindowHeight > 0 ? ViewModel.savedWindowHeight
                                                                        : 950
-    // Last known geometry while not maximized.
-    property int _normalW: 0
-    property int _normalH: 0
-    property int _normalX: 0
-    property int _normalY: 0
-    // Where the window was to be at start.
-    property point _startPosition
-    // It opened maximized and was nowhere else yet.
-    property bool _neverPlaced: false
-    // On Wayland a window neither knows nor chooses where it is.
-    readonly property bool _positionKnown: !Qt.platform.pluginName.startsWith("wayland")
 
     /// A frame has arrived since the camera started.
     property bool hasFirstFrame: false
     /// Below it the picture would shrink and the ground show on all sides.
     readonly property real zoomMin: 1.0
-
-    /// `px` moved so that about 120 pixels of the window stay on the screen.
-    function safeX(px: int): int {
-        return Math.round(Math.max(Screen.virtualX - width + 120,
-                                   Math.min(Screen.virtualX + Screen.width - 120, px)));
-    }
-
-    /// `py` moved so that the title bar stays on the screen.
-    function safeY(py: int): int {
-        return Math.round(Math.max(Screen.virtualY,
-                                   Math.min(Screen.virtualY + Screen.height - 80, py)));
-    }
-
-    function noteNormalGeometry(px: int, py: int, w: int, h: int) {
-        _normalX = px;
-        _normalY = py;
-        _normalW = w;
-        _normalH = h;
-    }
-
-    /// Takes the start position. Only in the windowed state: a maximized window would move when its
-    /// position is written, and takes what it needs for restoring down from the noted geometry.
-    function placeOnStart() {
-        const placed = ViewModel.savedWindowWidth > 0;
-        const targetX = placed ? safeX(ViewModel.savedWindowX)
-                               : Math.round(Screen.virtualX + (Screen.width - savedWidth) / 2);
-        const targetY = placed ? safeY(ViewModel.savedWindowY)
-                               : Math.round(Screen.virtualY + (Screen.height - savedHeight) / 2);
-        _startPosition = Qt.point(targetX, targetY);
-        if (visibility === Window.Windowed) {
-            x = targetX;
-            y = targetY;
-            noteNormalGeometry(x, y, width, height);
-        } else {
-            noteNormalGeometry(targetX, targetY, savedWidth, savedHeight);
-            _neverPlaced = true;
-        }
-    }
-
-    /// Takes the start position once a window that opened maximized is restored down: the platform
-    /// knows none to restore. Not before it has its normal size, which a write would undo.
-    function placeOnRestore() {
-        if (!_neverPlaced || visibility !== Window.Windowed || width !== savedWidth
-                || height !== savedHeight)
-            return;
-        _neverPlaced = false;
-        x = _startPosition.x;
-        y = _startPosition.y;
-    }
-
-    function saveGeometry() {
-        const maximized = visibility === Window.Maximized || visibility === Window.FullScreen;
-        let [px, py, w, h] = maximized ? [_normalX, _normalY, _normalW, _normalH]
-                                       : [x, y, width, height];
-        if (w < 400 || h < 400) {
-            w = savedWidth;
-            h = savedHeight;
-        }
-        if (!_positionKnown)
-            [px, py] = [_startPosition.x, _startPosition.y];
-        ViewModel.saveWindowGeometry(px, py, w, h, maximized);
-    }
 
     function report(kind: string) {
         bugReportDialog.reportKind = kind;
@@ -100,10 +28,10 @@ ApplicationWindow {
     }
 
     // `visible` is deliberately not set: it shares its state with `visibility` and would undo
-    // Window.Maximized. The saved values are constant for QML, so these bindings are evaluated once.
+    // Window.Maximized.
     visibility: ViewModel.savedWindowMaximized ? Window.Maximized : Window.Windowed
-    width: ViewModel.savedWindowWidth > 0 ? ViewModel.savedWindowWidth : 1600
-    height: ViewModel.savedWindowHeight > 0 ? ViewModel.savedWindowHeight : 950
+    width: savedWidth
+    height: savedHeight
     minimumWidth: 800
     minimumHeight: 600
     objectName: "root"
@@ -112,34 +40,14 @@ ApplicationWindow {
     Material.theme: ViewModel.darkMode ? Material.Dark : Material.Light
     Material.accent: "#4A9ECA"
 
-    onWidthChanged: {
-        normalGeometryCommit.restart();
-        placeOnRestore();
-    }
-    onHeightChanged: {
-        normalGeometryCommit.restart();
-        placeOnRestore();
-    }
-    onXChanged: normalGeometryCommit.restart()
-    onYChanged: normalGeometryCommit.restart()
-    onVisibilityChanged: {
-        normalGeometryCommit.restart();
-        placeOnRestore();
-    }
-    onClosing: saveGeometry()
-    Component.onCompleted: placeOnStart()
+    onClosing: placement.save()
+    Component.onCompleted: placement.takeStart()
 
-    // On maximizing, the platform changes the size first and the state afterwards, so the change
-    // handlers still see a window that is not maximized.
-    Timer {
-        id: normalGeometryCommit
+    WindowPlacement {
+        id: placement
 
-        objectName: "normalGeometryCommit"
-        interval: 300
-        onTriggered: {
-            if (root.visibility === Window.Windowed)
-                root.noteNormalGeometry(root.x, root.y, root.width, root.height);
-        }
+        objectName: "placement"
+        window: root
     }
 
     Binding {
@@ -389,7 +297,5 @@ ApplicationWindow {
 
     ScreenshotFolderDialog {
         id: screenshotFolderDialog
-
-        objectName: "screenshotFolderDialog"
     }
 }

@@ -5,6 +5,7 @@ import QtQuick.Controls.Material
 import QtQuick.Dialogs
 import QtQuick.Layouts
 import Meridax
+import "overlayGeometry.mjs" as Geometry
 
 /// What is drawn over the picture: three measuring circles and the crosshair.
 Pane {
@@ -102,8 +103,8 @@ Pane {
             objectName: "radiusSlider"
             Layout.fillWidth: true
             label: qsTr("Radius")
-            from: 10
-            to: 5000
+            from: Geometry.MIN_RADIUS
+            to: Geometry.MAX_RADIUS
             editable: true
             value: ViewModel[`${circleRow._stem}Radius`]
             onMoved: newValue => circleRow.setRadius(newValue)

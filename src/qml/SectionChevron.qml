@@ -8,6 +8,8 @@ ToolButton {
 
     required property bool expanded
     required property string title
+    /// A change of the state turns the arrow visibly.
+    required property bool animated
 
     implicitWidth: 24
     implicitHeight: 24
@@ -30,6 +32,7 @@ ToolButton {
     Keys.onEnterPressed: event => event.isAutoRepeat || clicked()
 
     Behavior on rotation {
+        enabled: root.animated
         NumberAnimation { duration: 140; easing.type: Easing.OutCubic }
     }
 

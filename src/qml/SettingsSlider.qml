@@ -26,14 +26,11 @@ RowLayout {
 
     signal moved(newValue: real)
 
-    function _moveBy(delta: real) {
-        moved(Math.max(from, Math.min(to, value + delta)));
-    }
-
-    /// A button that reaches the end of the range cannot keep the focus.
-    function _stepBy(delta: real, button: StepButton) {
+    /// A button that reaches the end of the range cannot keep the focus. From beyond the range it
+    /// steps back, too, and does not jump to its end.
+    function _stepTo(newValue: real, button: StepButton) {
         const reason = button.activeFocus ? button.focusReason : -1;
-        _moveBy(delta);
+        moved(newValue);
         if (reason >= 0 && !button.enabled)
             slider.forceActiveFocus(reason);
     }
@@ -77,7 +74,8 @@ RowLayout {
                     return;
                 const step = Math.max(1, Math.round(root.stepSize))
                            * (event.modifiers & Qt.ControlModifier ? 10 : 1);
-                root._moveBy(event.angleDelta.y > 0 ? step : -step);
+                const newValue = root.value + (event.angleDelta.y > 0 ? step : -step);
+                root.moved(Math.max(root.from, Math.min(root.to, newValue)));
             }
         }
 
@@ -110,47 +108,27 @@ RowLayout {
                 text: "\u2212"
                 enabled: root.value > root.from
                 Accessible.name: "%1 %2".arg(root.label).arg(text)
-                onClicked: root._stepBy(-root.stepSize, minusButton)
+                onClicked: root._stepTo(Math.max(root.from, root.value - root.stepSize),
+                                           minusButton)
             }
 
-            Slider {
+            BoundSlider {
                 id: slider
                 objectName: "slider"
-
-                // The thumb would otherwise stay at the edge of the old range when a camera widens
-                // it: the binding below acts only on a change of the value.
-                function _placeThumb() {
-                    if (!pressed)
-                        value = root.value;
-                }
-
                 Layout.fillWidth: true
                 implicitHeight: 40
                 from: root.from
                 to: root.to
                 stepSize: root.stepSize
                 snapMode: Slider.SnapAlways
+                shownValue: root.value
                 Material.accent: root.accentColor
 
-                Accessible.role: Accessible.Slider
                 Accessible.name: root.label
                 Accessible.description: [display.pillText, root.tooltipText]
                                         .filter(text => text !== "").join(". ")
 
-                onFromChanged: _placeThumb()
-                onToChanged: _placeThumb()
-                onMoved: root.moved(value)
-                // Neither hand nor key: assistive technology writes the value itself, even of what is
-                // disabled. A range that is changing may stand the wrong way round for a moment.
-                onValueChanged: {
-                    const bounded = Math.max(from, Math.min(to, root.value));
-                    if (pressed || from > to || value === root.value || value === bounded)
-                        return;
-                    if (enabled)
-                        root.moved(value);
-                    else
-                        _placeThumb();
-                }
+                onChosen: newValue => root.moved(newValue)
                 Keys.onReturnPressed: display.beginEditing()
                 Keys.onEnterPressed: display.beginEditing()
 
@@ -161,13 +139,6 @@ RowLayout {
                     }
                     visible: slider.visualFocus
                 }
-
-                // Not while pressed: the thumb follows the hand.
-                Binding on value {
-                    value: root.value
-                    when: !slider.pressed
-                    restoreMode: Binding.RestoreNone
-                }
             }
 
             StepButton {
@@ -176,7 +147,7 @@ RowLayout {
                 text: "+"
                 enabled: root.value < root.to
                 Accessible.name: "%1 %2".arg(root.label).arg(text)
-                onClicked: root._stepBy(root.stepSize, plusButton)
+                onClicked: root._stepTo(Math.min(root.to, root.value + root.stepSize), plusButton)
             }
         }
     }

@@ -49,23 +49,17 @@ Rectangle {
             onClicked: zoomControl.setValue(Math.round(zoomControl.value) - 1)
         }
 
-        Slider {
+        BoundSlider {
             id: slider
 
             objectName: "zoomSlider"
             from: 0
             to: 100
             stepSize: 1
-            value: zoomControl.value
+            shownValue: zoomControl.value
             Layout.fillWidth: true
-            Accessible.role: Accessible.Slider
             Accessible.name: qsTr("Zoom")
-            onMoved: zoomControl.setValue(value)
-            // Assistive technology writes the value itself.
-            onValueChanged: {
-                if (!pressed && value !== zoomControl.value)
-                    zoomControl.setValue(value);
-            }
+            onChosen: newValue => zoomControl.setValue(newValue)
 
             FocusFrame {
                 visible: slider.visualFocus

@@ -29,7 +29,10 @@ AbstractButton {
     background: Rectangle {
         radius: width / 2
         color: "transparent"
-        border.color: "#4A9ECA"
-        border.width: button.visualFocus ? 2 : 0
+
+        FocusFrame {
+            radius: height / 2
+            visible: button.visualFocus
+        }
     }
 }

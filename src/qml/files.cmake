@@ -34,6 +34,7 @@ set(meridax_qml_internal
     src/qml/BarSeparator.qml
     src/qml/BetaTag.qml
     src/qml/BlobParameters.qml
+    src/qml/BoundSlider.qml
     src/qml/BuildBlock.qml
     src/qml/CalibrationHint.qml
     src/qml/CameraControlSlider.qml
@@ -137,6 +138,7 @@ set(meridax_qml_internal
     src/qml/ValuePill.qml
     src/qml/Watermark.qml
     src/qml/WindowBackground.qml
+    src/qml/WindowPlacement.qml
     src/qml/ZoomControl.qml
     src/qml/ZoomStepButton.qml
     src/qml/contrast.mjs
@@ -144,4 +146,5 @@ set(meridax_qml_internal
     src/qml/markdownText.mjs
     src/qml/overlayGeometry.mjs
     src/qml/plotGeometry.mjs
+    src/qml/windowGeometry.mjs
 )

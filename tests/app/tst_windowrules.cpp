@@ -62,7 +62,7 @@ private slots:
         QTest::newRow("as saved") << kNormal << kNormal.topLeft();
         QTest::newRow("partly off") << QRect({-700, 900}, size) << QPoint(-700, 900);
         QTest::newRow("beyond lower right") << QRect({5000, 4000}, size) << QPoint(1800, 1000);
-        QTest::newRow("beyond upper left") << QRect({-5000, -4000}, size) << QPoint(-1080, 0);
+        QTest::newRow("beyond upper left") << QRect({-5000, -4000}, size) << QPoint(-1080, 40);
     }
 
     void savedPlaceIsTaken()
@@ -110,6 +110,47 @@ private slots:
         QCOMPARE(program.complaints(), QByteArray());
         QCOMPARE(ProgramRun::readSettings()["windowMaximized"], true);
         QCOMPARE(ProgramRun::savedGeometry(ProgramRun::readSettings()), kNormal);
+    }
+
+    void closedWhileMinimized_data()
+    {
+        QTest::addColumn<bool>("maximized");
+        QTest::newRow("from its normal size") << false;
+        QTest::newRow("from maximized") << true;
+    }
+
+    void closedWhileMinimized()
+    {
+        QFETCH(bool, maximized);
+        ProgramRun::writeSettings(ProgramRun::windowSettings(kNormal));
+        ProgramRun program;
+        QVERIFY(appears());
+        QTRY_COMPARE(m_desktop.geometry(m_window), kNormal);
+        if (maximized) {
+            m_desktop.maximize(m_window, true);
+            QTRY_COMPARE(m_desktop.geometry(m_window).width(), kScreen.width());
+        }
+        m_desktop.minimize(m_window);
+        QTRY_VERIFY(m_desktop.isMinimized(m_window));
+        QVERIFY(closes(program));
+        QCOMPARE(program.complaints(), QByteArray());
+        QCOMPARE(ProgramRun::readSettings()["windowMaximized"], maximized);
+        QCOMPARE(ProgramRun::savedGeometry(ProgramRun::readSettings()), kNormal);
+    }
+
+    // 1920x1080 at 150 %: lower than the window wants to be.
+    void firstStartOnALowScreen()
+    {
+        ProgramRun::writeSettings({});
+        qputenv("QT_SCALE_FACTOR", "1.5");
+        ProgramRun program;
+        qunsetenv("QT_SCALE_FACTOR");
+        QVERIFY(appears());
+        QTRY_COMPARE(m_desktop.geometry(m_window).size(), QSize(1896, 1008));
+        QTRY_VERIFY(kScreen.contains(m_desktop.frame(m_window)));
+        QVERIFY(closes(program));
+        QCOMPARE(program.complaints(), QByteArray());
+        QCOMPARE(ProgramRun::savedGeometry(ProgramRun::readSettings()).size(), QSize(1264, 672));
     }
 
     void closingAtOnceSavesTheLatestSize()

@@ -24,6 +24,14 @@ TestCase {
     }
 
     Component {
+        id: blobComponent
+
+        Parts.BlobParameters {
+            width: 368
+        }
+    }
+
+    Component {
         id: stripComponent
 
         Parts.QualityStrip {
@@ -259,6 +267,39 @@ TestCase {
                 data.tag.startsWith("order"));
     }
 
+    function test_blobParameters_data() {
+        const row = (name, property, from, to, unit, filter) => ({
+            tag: name, property: property, from: from, to: to, unit: unit, filter: filter
+        });
+        return [
+            row("minThreshold", "blobMinThreshold", 1, 254, 1),
+            row("maxThreshold", "blobMaxThreshold", 2, 255, 1),
+            row("minArea", "blobMinArea", 1, 100000, 1, "Area"),
+            row("maxArea", "blobMaxArea", 2, 1000000, 1, "Area"),
+            row("minCircularity", "blobMinCircularity", 0, 100, 0.01, "Circularity"),
+            row("minInertia", "blobMinInertiaRatio", 0, 100, 0.01, "Inertia")
+        ];
+    }
+
+    function test_blobParameters(data) {
+        const parameters = createTemporaryObject(blobComponent, testCase);
+        const slider = findChild(parameters, data.tag);
+        compare([slider.from, slider.to, slider.stepSize], [data.from, data.to, 1]);
+        const before = ViewModel[data.property];
+        for (const shown of [77, 78]) {
+            slider.moved(shown);
+            fuzzyCompare(ViewModel[data.property], shown * data.unit, 1e-9);
+            fuzzyCompare(slider.value, shown, 1e-9);
+        }
+        ViewModel[data.property] = before;
+        for (const filter of ["Area", "Circularity", "Inertia"]) {
+            mouseClick(findChild(findChild(parameters, `filter${filter}`), "switch"));
+            verify(!ViewModel[`blobFilter${filter}`], filter);
+            compare(slider.enabled, filter !== data.filter, filter);
+            ViewModel[`blobFilter${filter}`] = true;
+        }
+    }
+
     function test_withCamera() {
         ViewModel.startCamera();
         tryCompare(ViewModel, "running", true, 20000);
@@ -269,16 +310,6 @@ TestCase {
         positions.forceActiveFocus();
         keyClick(Qt.Key_Up);
         compare(ViewModel.calibrationPositions, 9);
-
-        const circularity = findChild(part("minCircularity"), "slider");
-        ViewModel.blobMinCircularity = 0.5;
-        circularity.forceActiveFocus();
-        keyClick(Qt.Key_Right);
-        fuzzyCompare(ViewModel.blobMinCircularity, 0.51, 1e-9);
-        mouseClick(findChild(part("filterCircularity"), "switch"));
-        verify(!ViewModel.blobFilterCircularity);
-        verify(!circularity.enabled);
-        ViewModel.blobFilterCircularity = true;
 
         mouseClick(part("calibrationStartButton"));
         verify(ViewModel.calibrationActive);

@@ -188,6 +188,74 @@ TestCase {
         compare(image.pixel(114 + 62, 114), Qt.color("#4a9eca"));
     }
 
+    // Of `count` points on a circle about `center` in `image` those that are not as the ground.
+    function painted(image: var, center: point, radius: real, count: int): int {
+        const ground = image.pixel(center.x - 90, center.y - 90);
+        let found = 0;
+        for (let i = 0; i < count; ++i) {
+            const angle = 2 * Math.PI * (i + 0.5) / count;
+            const color = image.pixel(center.x + radius * Math.cos(angle),
+                                      center.y + radius * Math.sin(angle));
+            found += Qt.colorEqual(color, ground) ? 0 : 1;
+        }
+        return found;
+    }
+
+    function test_scaleIsPainted() {
+        const canvas = createTemporaryObject(roundnessComponent, testCase, {
+            points: pointsAt(Array(12).fill(10)), fixedFull: 1
+        });
+        tryVerify(() => canvas.available);
+        verify(waitForRendering(canvas));
+        const image = grabImage(canvas);
+        const center = Qt.point(114, 114);
+        // Rings of dashes at the ends of the scale, and between them a spoke to each point.
+        for (const ring of [62 - 30, 62 + 30]) {
+            const count = painted(image, center, ring, 400);
+            verify(count > 100 && count < 390, `${count} of 400 at ${ring}`);
+        }
+        const spokes = painted(image, center, 45, 12 * 60);
+        verify(spokes >= 12 && spokes < 12 * 10, `${spokes} at the spokes`);
+        // Over the outer ring: what it stands for.
+        let label = 0;
+        for (let x = 100; x < 128; ++x)
+            label += Qt.colorEqual(image.pixel(x, 114 - 62 - 30 - 8), image.pixel(2, 2)) ? 0 : 1;
+        verify(label > 3, "the label");
+    }
+
+    function test_uncertaintyIsPainted_data() {
+        return [
+            { tag: "good", count: 8, sigma: 0.1, shown: true, good: true },
+            { tag: "level 2", count: 8, sigma: 0.6, shown: true, good: false },
+            { tag: "not assessable", count: 4, sigma: 0.1 }
+        ];
+    }
+
+    function test_uncertaintyIsPainted(data) {
+        finish(Array(data.count).fill(100).map((r, i) => r + i % 2), 100, data.sigma);
+        const plot = createTemporaryObject(plotComponent, testCase);
+        const canvas = findChild(plot, "roundnessCanvas");
+        tryVerify(() => canvas.available && canvas.width > 180);
+        const { base, band, sigmaRadius } = canvas._plot;
+        compare(sigmaRadius > 0, data.shown ?? false);
+        let image = null;
+        let center = null;
+        tryVerify(() => {
+            center = canvas.mapToItem(plot, canvas.width / 2, canvas.height / 2);
+            image = grabImage(plot);
+            return image.height > center.y + 97 && center.y > 97 && painted(image, center, base + band, 400) > 100;
+        });
+        // Away from the cross in the middle and from the spokes.
+        const angle = Math.PI / 8;
+        const distance = data.shown ? sigmaRadius : 5;
+        const seen = image.pixel(center.x + distance * Math.cos(angle),
+                                 center.y + distance * Math.sin(angle));
+        if (data.shown)
+            compare(seen.g > seen.r, data.good, seen);
+        else
+            verify(Qt.colorEqual(seen, image.pixel(center.x - 90, center.y - 90)));
+    }
+
     function test_centerIsPainted() {
         const canvas = createTemporaryObject(centerComponent, testCase);
         tryVerify(() => canvas.available);

@@ -43,7 +43,7 @@ TestCase {
 
     function create(properties): CollapsibleSection {
         const section = createTemporaryObject(sectionComponent, testCase, properties);
-        verify(waitForRendering(section));
+        verify(section);
         return section;
     }
 
@@ -66,6 +66,7 @@ TestCase {
         compare(section.expanded, data.expanded);
         // At once: only the user's folding is animated.
         compare(findChild(section, "contentBox").implicitHeight, data.expanded ? 120 : 0);
+        compare(findChild(section, "chevron").rotation, data.expanded ? 0 : -90);
     }
 
     function test_foldedContentLeavesTheLayout() {

@@ -156,6 +156,10 @@ TestCase {
               moves: [100] },
             { tag: "minus down to the end", button: "minusButton", value: 0.3, stepSize: 1,
               moves: [0] },
+            { tag: "minus from beyond the end", button: "minusButton", value: 1500, stepSize: 1,
+              moves: [1499] },
+            { tag: "plus from below the start", button: "plusButton", value: -5, stepSize: 1,
+              moves: [-4] },
             { tag: "plus at the end", button: "plusButton", value: 100, stepSize: 1, moves: [] },
             { tag: "minus at the end", button: "minusButton", value: 0, stepSize: 1, moves: [] }
         ];

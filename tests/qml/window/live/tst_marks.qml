@@ -81,6 +81,37 @@ Item {
             ViewModel.zoom = 1;
         }
 
+        // Nothing else asks for it: without it the marks would freeze on the screen.
+        function test_everyChangePaints_data() {
+            const changes = {
+                circle1Radius: 222, circle1Color: "#00ff00", circle1LineWidth: 5,
+                circle1LineStyle: 2, circle1Enabled: false, circle2Enabled: true,
+                circle2Radius: 333, circle3Enabled: true, circle3Color: "#123456",
+                crossEnabled: true, crossAngle: 12, crossType: 0, crossColor: "#00ffff",
+                crossLineWidth: 7, crossLineStyle: 3, centerX: 700, centerY: 555, zoom: 2.5
+            };
+            const rows = Object.entries(changes).map(([property, value]) => ({
+                tag: property, change: () => ViewModel[property] = value
+            }));
+            return [...rows,
+                    { tag: "size", change: () => scene.width = 790 },
+                    { tag: "camera stops", change: () => overlay.running = false }];
+        }
+        function test_everyChangePaints(data) {
+            videoItem.setFrame(testFrames.ring(1600, 1200, 800, 600, 300, 4));
+            ViewModel.centerX = 800;
+            ViewModel.centerY = 600;
+            ViewModel.crossType = 1;
+            ViewModel.crossAngle = 0;
+            tryVerify(() => overlay.ovlPxScale > 0);
+            settle();
+            painted.clear();
+            data.change();
+            painted.wait();
+            scene.width = 800;
+            overlay.running = true;
+        }
+
         function test_circleLiesOnItsFramePixels_data() {
             return [
                 { tag: "zoom 1", zoom: 1, cx: 812, cy: 590, radius: 400 },

@@ -161,11 +161,15 @@ TestCase {
         ];
     }
     function test_outcomes(data) {
+        const area = item("focusTapArea");
+        area.tapPoint = Qt.point(area.width / 2, area.height - 4); // under the status bar
         ViewModel.focusSweepFeedback(3);
         verify(!item("focusToast").visible);
         ViewModel.focusSweepFeedback(data.outcome);
         tryCompare(item("focusToast"), "visible", true);
         compare(item("focusToast").text, data.text);
+        const toast = item("focusToast");
+        verify(toast.y + toast.height < item("footerBar").y, "over the status bar");
         ViewModel.focusSweepFeedback(0);
         tryCompare(item("successRing"), "visible", true);
     }

@@ -62,14 +62,14 @@ TestCase {
         open();
         compare(window.title, "Meridax");
         compare(window.visibility, Window.Windowed);
-        compare(window.width, 1600);
-        compare(window.height, 950);
+        compare(window.width, Math.max(800, Math.min(1600, Screen.width - 16)));
+        compare(window.height, Math.min(950, Screen.height - 48));
         compare(window.minimumWidth, 800);
         compare(window.minimumHeight, 600);
-        fuzzyCompare(window.x, (Screen.width - 1600) / 2, frameMargin);
-        fuzzyCompare(window.y, (Screen.height - 950) / 2, frameMargin);
-        compare([window._normalX, window._normalY, window._normalW, window._normalH],
-                [window.x, window.y, 1600, 950]);
+        fuzzyCompare(window.x, (Screen.width - window.width) / 2, frameMargin);
+        fuzzyCompare(window.y, Math.max(40, (Screen.height - window.height) / 2), frameMargin);
+        tryCompare(item("placement"), "normal",
+                   Qt.rect(window.x, window.y, window.width, window.height));
     }
 
     function test_savedPosition_data() {
@@ -79,7 +79,7 @@ TestCase {
                 tag: "right and below of all screens", x: 9000, y: 9000,
                 expectedX: Screen.width - 120, expectedY: Screen.height - 80
             },
-            { tag: "left and above", x: -9000, y: -9000, expectedX: -900 + 120, expectedY: 0 }
+            { tag: "left and above", x: -9000, y: -9000, expectedX: -900 + 120, expectedY: 40 }
         ];
     }
     function test_savedPosition(data) {
@@ -110,10 +110,10 @@ TestCase {
         window.width = 870;
         commits.clear();
         commits.wait();
-        compare(window._normalW, 870);
+        compare(item("placement").normal.width, 870);
         window.showMaximized();
         commits.wait();
-        compare(window._normalW, 870);
+        compare(item("placement").normal.width, 870);
         window.close();
         compare(ViewModel.savedWindowMaximized, true);
         compare(ViewModel.savedWindowWidth, 870);
@@ -169,6 +169,23 @@ TestCase {
         compare(item("startStopButton").text, "Start");
     }
 
+    // What the camera reports stands in its own catalogue.
+    function test_statusIsTranslated() {
+        open();
+        const reported = "Kamerafehler – bitte Gerät und Verbindung prüfen.";
+        const shown = reported.replace("Kamera", "<i>Kamera</i>");
+        ViewModel.controller.errorOccurred(reported);
+        compare(item("connectionLabel").text, reported);
+        ViewModel.language = "en";
+        compare(item("connectionLabel").text,
+                "Camera error – please check the device and its connection.");
+        ViewModel.language = "de";
+        ViewModel.controller.errorOccurred(shown);
+        compare(item("connectionLabel").contentWidth > 0
+                && item("connectionLabel").textFormat, Text.PlainText);
+        ViewModel.controller.statusChanged("");
+    }
+
     function test_blobPill() {
         open();
         const pill = item("blobPill");
@@ -208,6 +225,8 @@ TestCase {
         compare(ViewModel.zoom, 1);
         ViewModel.zoom = 4.98;
         mouseWheel(area, x, 300, 0, 120);
+        compare(ViewModel.zoom, 5);
+        mouseWheel(area, x, 300, 120, 0); // sideways, while the wheel is still in use
         compare(ViewModel.zoom, 5);
     }
 

@@ -27,6 +27,13 @@ Item {
         running: true
     }
 
+    Internal.LiveView {
+        id: live
+
+        anchors.fill: parent
+        visible: false
+    }
+
     TestCase {
         name: "OverlayCanvas"
         when: windowShown
@@ -153,10 +160,31 @@ Item {
             compare(ViewModel.centerX, 800);
         }
 
-        function test_marksMoveWithTheCentre() {
+        // Zooming leaves the centre of the marks, offset included, in its place on the screen.
+        function test_zoomAnchor_data() {
+            const rows = [];
+            for (const zoom of [1, 1.6, 5]) {
+                for (const offset of [false, true])
+                    rows.push({ tag: `zoom ${zoom}${offset ? " with offset" : ""}`, zoom: zoom,
+                                offset: offset, x: offset ? 430 : 450, y: offset ? 280 : 250 });
+            }
+            return rows;
+        }
+        function test_zoomAnchor(data) {
+            live.videoItem.setFrame(testFrames.ring(1600, 1200, 800, 600, 300, 4));
+            tryCompare(live.videoItem.viewSourceRect, "height", 1200);
+            ViewModel.resolutionX = 1600;
+            ViewModel.resolutionY = 1200;
             ViewModel.centerX = 900;
-            compare(overlay.ovlScx, 450);
-            compare(overlay.circleAtEdge(600, 300), 1);
+            ViewModel.centerY = 500;
+            ViewModel.offsetX = -40;
+            ViewModel.offsetY = 60;
+            ViewModel.offsetEnabled = data.offset;
+            ViewModel.zoom = data.zoom;
+            const marks = findChild(live, "overlayCanvas");
+            tryVerify(() => Math.abs(marks.ovlPxScale - 0.5 * data.zoom) < 1e-6);
+            fuzzyCompare(marks.ovlScx, data.x, 1e-6);
+            fuzzyCompare(marks.ovlScy, data.y, 1e-6);
         }
     }
 }

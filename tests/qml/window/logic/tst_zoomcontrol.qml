@@ -15,6 +15,12 @@ Item {
         anchors.centerIn: parent
     }
 
+    Component {
+        id: controlComponent
+
+        Internal.ZoomControl {}
+    }
+
     TestCase {
         name: "ZoomControl"
         when: windowShown
@@ -37,6 +43,16 @@ Item {
             fuzzyCompare(control.value, data.value, 1e-9);
             fuzzyCompare(findChild(control, "zoomSlider").value, data.value, 1e-9);
             compare(findChild(control, "zoomValueLabel").text, data.text);
+        }
+
+        function test_showingChangesNothing() {
+            ViewModel.zoom = 0.5;
+            const another = createTemporaryObject(controlComponent, scene);
+            ViewModel.zoom = 6;
+            compare(findChild(another, "zoomSlider").value, 100);
+            compare(ViewModel.zoom, 6);
+            findChild(another, "zoomSlider").value = 25; // assistive technology
+            compare(ViewModel.zoom, 2);
         }
 
         function test_stepButtons() {
