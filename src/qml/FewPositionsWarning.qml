@@ -29,8 +29,9 @@ ToolButton {
 
     HelpTip {
         id: tip
-        visible: (root.hovered || root.visualFocus) && ViewModel.showTooltips
-        delay: 400
+
+        objectName: "toolTip"
+        wanted: root.hovered || root.visualFocus
         text: qsTr("Weniger als 6 Messpunkte: Formabweichungen wie ein Dreikant sind dann nicht erkennbar und verschieben den berechneten Mittelpunkt. Die angezeigte Genauigkeit ist in diesem Fall zu optimistisch. Klicken für Details im Handbuch.")
     }
 }

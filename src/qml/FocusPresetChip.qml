@@ -60,6 +60,9 @@ Item {
 
     FocusFrame { }
 
+    // A press that misses the small cross is none on the picture.
+    InputShield { }
+
     HoverHandler {
         id: hover
     }
@@ -78,8 +81,9 @@ Item {
     }
 
     HelpTip {
-        visible: chipArea.containsMouse && chipArea.enabled && ViewModel.showTooltips
-        delay: 400
+        objectName: "chipTip"
+        wanted: chipArea.containsMouse && chipArea.enabled
+        beside: true
         text: root.hasMarkers
               ? qsTr("Klick: Fokus + Markierungen anfahren\nDoppelklick: umbenennen")
               : qsTr("Klick: nur Fokus anfahren\nDoppelklick: umbenennen")
@@ -132,6 +136,7 @@ Item {
             Layout.fillWidth: true
             visible: !root.renaming
             text: root.name
+            textFormat: Text.PlainText
             Accessible.ignored: true
             font.pixelSize: 12
             font.bold: true

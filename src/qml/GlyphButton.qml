@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Material
-import Meridax
 
 /// A small button of one character on a chip; it fills when it is pointed at.
 AbstractButton {
@@ -40,8 +39,7 @@ AbstractButton {
     }
 
     HelpTip {
-        visible: (root.hovered || root.visualFocus) && ViewModel.showTooltips
-        delay: 400
+        wanted: root.hovered || root.visualFocus
         text: root.toolTip
     }
 }

@@ -26,9 +26,7 @@ ToolButton {
     }
 
     HelpTip {
-        visible: (root.hovered || root.visualFocus) && root.toolTip !== ""
-                 && ViewModel.showTooltips
-        delay: 400
+        wanted: root.hovered || root.visualFocus
         text: root.toolTip
     }
 }

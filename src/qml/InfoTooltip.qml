@@ -61,7 +61,8 @@ Item {
 
     HelpTip {
         objectName: "helpTip"
-        visible: root.visible && root._marked
+        wanted: root.visible && root._marked
+        always: true
         delay: root.hoverDelay
         text: root.text
     }

@@ -12,6 +12,7 @@ AbstractButton {
     /// What the button stands for is going on.
     property bool inUse: false
     property bool toolTipEnabled: true
+    property color ground: Qt.rgba(0x4A / 255, 0x9E / 255, 0xCA / 255, inUse ? 0.25 : 0)
 
     implicitWidth: 40
     implicitHeight: 40
@@ -27,7 +28,7 @@ AbstractButton {
 
     background: Rectangle {
         radius: 6
-        color: Qt.rgba(0x4A / 255, 0x9E / 255, 0xCA / 255, root.inUse ? 0.25 : 0)
+        color: root.ground
 
         Behavior on color {
             ColorAnimation { duration: 120 }
@@ -39,6 +40,7 @@ AbstractButton {
     }
     contentItem: Item {
         SvgItem {
+            objectName: "icon"
             anchors.centerIn: parent
             width: root.iconSize
             height: root.iconSize
@@ -51,9 +53,8 @@ AbstractButton {
     }
 
     HelpTip {
-        visible: (root.hovered || root.visualFocus) && root.toolTipEnabled
-                 && ViewModel.showTooltips
-        delay: 400
+        objectName: "toolTip"
+        wanted: (root.hovered || root.visualFocus) && root.toolTipEnabled
         text: root.toolTip
     }
 }

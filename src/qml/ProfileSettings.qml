@@ -81,6 +81,8 @@ SettingsColumn {
             objectName: "clearProfileButton"
             text: qsTr("Löschen")
             visible: ViewModel.profileExists
+            // The profile of a camera that is away stays until that is back.
+            enabled: root.cameraSelected
             onClicked: ViewModel.clearCameraProfile()
         }
     }

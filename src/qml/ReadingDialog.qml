@@ -30,8 +30,6 @@ CenteredDialog {
     }
 
     header: DialogBand {
-        rightPadding: 10
-
         Label {
             objectName: "titleLabel"
             text: root.title
@@ -73,7 +71,8 @@ CenteredDialog {
             objectName: "markdownView"
             anchors.fill: parent
             visible: root.text !== ""
-            markdown: root.text
+            // A long text takes its time to lay out.
+            markdown: root.visible ? root.text : ""
             name: root.title
         }
 

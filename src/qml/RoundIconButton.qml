@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Material
-import Meridax
 
 /// Flat round button with an icon of 18 pixels; its tool tip tells what it does.
 RoundButton {
@@ -22,14 +21,16 @@ RoundButton {
     Accessible.role: Accessible.Button
     Accessible.name: toolTip
 
-    ToolTip.visible: (hovered || visualFocus) && ViewModel.showTooltips
-    ToolTip.delay: 400
-    ToolTip.text: toolTip
-
     FocusFrame {
         radius: height / 2
         anchors.margins: 0
         visible: root.visualFocus
+    }
+
+    HelpTip {
+        objectName: "toolTip"
+        wanted: root.hovered || root.visualFocus
+        text: root.toolTip
     }
 
     Keys.onReturnPressed: event => event.isAutoRepeat || click()

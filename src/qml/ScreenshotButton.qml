@@ -1,22 +1,13 @@
 import QtQuick
-import QtQuick.Controls.Material
 import Meridax
 
 /// Saves a screenshot: the picture with its marks as they stand on the screen, or the bare frame.
-AbstractButton {
+OverlayButton {
     id: root
 
     /// The item that is grabbed for a screenshot with marks.
     required property Item target
     readonly property bool confirming: confirmation.running
-    readonly property string toolTip: {
-        if (ViewModel.screenshotPath === "")
-            return qsTr("Screenshot — Zielordner erst in den Einstellungen wählen");
-        const text = ViewModel.screenshotIncludeOverlays
-                   ? qsTr("Screenshot mit Markierungen speichern\n%1")
-                   : qsTr("Screenshot ohne Markierungen speichern\n%1");
-        return text.arg(ViewModel.screenshotPath);
-    }
 
     signal failed(reason: string)
 
@@ -54,46 +45,21 @@ AbstractButton {
 
     implicitWidth: 32
     implicitHeight: 32
-    focusPolicy: Qt.StrongFocus
     opacity: confirming ? 1.0 : hovered || visualFocus ? 0.95 : 0.55
+    ground: Qt.rgba(0, 0, 0, 0.45)
     text: qsTr("Screenshot")
-    Keys.onReturnPressed: event => event.isAutoRepeat || click()
-    Keys.onEnterPressed: event => event.isAutoRepeat || click()
+    iconSource: confirming ? "qrc:/resources/icon_check.svg" : "qrc:/resources/icon_camera.svg"
+    iconSize: 22
+    toolTip: {
+        if (ViewModel.screenshotPath === "")
+            return qsTr("Screenshot — Zielordner erst in den Einstellungen wählen");
+        const text = ViewModel.screenshotIncludeOverlays
+                   ? qsTr("Screenshot mit Markierungen speichern\n%1")
+                   : qsTr("Screenshot ohne Markierungen speichern\n%1");
+        return text.arg(ViewModel.screenshotPath);
+    }
     onClicked: ViewModel.screenshotIncludeOverlays ? grabTarget()
                                                    : finish(ViewModel.captureScreenshot() !== "")
-
-    Accessible.role: Accessible.Button
-    Accessible.name: text
-    Accessible.description: toolTip
-
-    background: Rectangle {
-        radius: 6
-        color: Qt.rgba(0, 0, 0, 0.45)
-
-        FocusFrame {
-            visible: root.visualFocus
-        }
-    }
-    contentItem: Item {
-        SvgItem {
-            objectName: "icon"
-            anchors.centerIn: parent
-            width: 22
-            height: 22
-            source: root.confirming ? "qrc:/resources/icon_check.svg"
-                                    : "qrc:/resources/icon_camera.svg"
-        }
-    }
-
-    Behavior on opacity {
-        NumberAnimation { duration: 150 }
-    }
-
-    HelpTip {
-        visible: (root.hovered || root.visualFocus) && ViewModel.showTooltips
-        delay: 400
-        text: root.toolTip
-    }
 
     Timer {
         id: confirmation

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Material
 import QtQuick.Layouts
-import Meridax
 
 /// A check box of the settings panel. `shownChecked` is set from outside; a user's change goes out
 /// by `chosen` alone.
@@ -57,9 +56,7 @@ CheckBox {
 
     HelpTip {
         objectName: "toolTip"
-        visible: (root.hovered || root.visualFocus) && root.toolTip !== ""
-                 && ViewModel.showTooltips
-        delay: 400
+        wanted: root.hovered || root.visualFocus
         text: root.toolTip
     }
 }

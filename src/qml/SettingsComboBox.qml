@@ -32,6 +32,8 @@ ComboBox {
     }
 
     delegate: MenuItem {
+        id: entry
+
         required property int index
 
         width: ListView.view.width
@@ -41,6 +43,16 @@ ComboBox {
         highlighted: root.highlightedIndex === index
         Material.foreground: root.currentIndex === index ? root.Material.accent
                                                          : root.Material.foreground
+
+        // The style's own would take an "&" in the name of a device for a mark, and a tag for one.
+        contentItem: Label {
+            text: entry.text
+            textFormat: Text.PlainText
+            font: entry.font
+            elide: Text.ElideRight
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
 
         Accessible.role: Accessible.MenuItem
         Accessible.name: text

@@ -77,9 +77,10 @@ Item {
         cursorShape: Qt.IBeamCursor
         onDoubleClicked: root.beginEditing()
 
-        ToolTip.visible: pointed && ViewModel.showTooltips
-        ToolTip.delay: 400
-        ToolTip.text: qsTr("Doppelklick zum Bearbeiten")
+        HelpTip {
+            wanted: numberArea.pointed
+            text: qsTr("Doppelklick zum Bearbeiten")
+        }
     }
 
     ValuePill {

@@ -60,10 +60,6 @@ TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: name
 
-    ToolTip.visible: hovered && !hintTimer.running && ViewModel.showTooltips
-    ToolTip.delay: 400
-    ToolTip.text: qsTr("Bereich %1 – %2  ·  Punkt (.) als Dezimaltrennzeichen").arg(from).arg(to)
-
     background: Rectangle {
         color: Qt.rgba(0, 0, 0, 0.45)
         radius: 3
@@ -97,6 +93,11 @@ TextField {
             return;
         event.accepted = true;
         endedByKey();
+    }
+
+    HelpTip {
+        wanted: root.hovered && !hintTimer.running
+        text: qsTr("Bereich %1 – %2  ·  Punkt (.) als Dezimaltrennzeichen").arg(root.from).arg(root.to)
     }
 
     Timer {

@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Material
 import QtQuick.Layouts
-import Meridax
 
 /// A way to reach the support. While the server has paused it, it stays in its place, greyed, and
 /// tells why.
@@ -57,8 +56,7 @@ Item {
 
     HelpTip {
         objectName: "pausedTip"
-        visible: hover.hovered && !root.available && ViewModel.showTooltips
-        delay: 400
+        wanted: hover.hovered && !root.available
         text: root.pausedHint
     }
 }

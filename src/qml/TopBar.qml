@@ -68,6 +68,7 @@ Rectangle {
             objectName: "cameraLabel"
             visible: ViewModel.selectedCameraName !== ""
             text: topBar.cameraText
+            textFormat: Text.PlainText
             font.pixelSize: 13
             color: ViewModel.running ? Theme.text : Theme.textMuted
             elide: Text.ElideRight
@@ -113,6 +114,7 @@ Rectangle {
         LiveLabel {
             objectName: "connectionLabel"
             text: topBar.connectionText
+            textFormat: Text.PlainText
             font.pixelSize: 12
             color: ViewModel.running ? Theme.text : Theme.textMuted
             elide: Text.ElideRight

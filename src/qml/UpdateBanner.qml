@@ -77,8 +77,13 @@ Rectangle {
                 bold: true
             }
             color: Theme.text
+            // The version is what counts: where there is no room for it the text takes more lines.
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
             elide: Text.ElideRight
-            Layout.maximumWidth: 260
+            Layout.fillWidth: true
+            Layout.minimumWidth: Math.min(Math.ceil(implicitWidth), root.width / 6)
+            Layout.maximumWidth: Math.ceil(implicitWidth)
         }
 
         BetaTag {
@@ -95,6 +100,7 @@ Rectangle {
             color: Theme.textMuted
             elide: Text.ElideRight
             Layout.fillWidth: true
+            Layout.minimumWidth: 0
         }
 
         LinkLabel {

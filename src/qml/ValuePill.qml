@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Material
-import Meridax
 
 /// Green pill in place of a number: an automatic mode is on.
 Rectangle {
@@ -33,7 +32,8 @@ Rectangle {
         onDoubleClicked: root.doubleClicked()
     }
 
-    ToolTip.visible: mouse.containsMouse && toolTip !== "" && ViewModel.showTooltips
-    ToolTip.delay: 400
-    ToolTip.text: toolTip
+    HelpTip {
+        wanted: mouse.containsMouse
+        text: root.toolTip
+    }
 }

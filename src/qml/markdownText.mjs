@@ -11,6 +11,8 @@ export function withoutResources(markdown) {
         .replace(/<(?=[a-zA-Z/!?])(?!https?:\/\/[^\s<>]*>)/gi, "<" + wordJoiner);
 }
 
+const Line = Object.freeze({ Blank: 0, Heading: 1, Item: 2, Text: 3 });
+
 /// Whether the view lays `markdown` out in a moment. The time grows with the square of the lines, of
 /// the cells of a table, and of the spans in one paragraph; a text beyond these limits shows as it
 /// is written.
@@ -18,20 +20,37 @@ export function isModerate(markdown) {
     const maxLines = 2100; // what the server sends is cut at 2000, and a note follows
     const maxTableMarks = 4000;
     const maxSpanMarks = 300;
-    const beginsParagraph = /^ {0,3}(?:[-*+] +\S|#{1,6} |$)/;
 
-    const lines = markdown.split("\n");
+    const lines = markdown.split(/\r\n|\r|\n/);
     if (lines.length > maxLines || occurrences(markdown, /\|/g) > maxTableMarks)
         return false;
     let marks = 0;
+    let before = Line.Blank;
     for (const line of lines) {
-        if (beginsParagraph.test(line))
+        const kind = kindOf(line, before);
+        if (kind !== Line.Text)
             marks = 0;
         marks += occurrences(line, /[`*_~<[]/g);
         if (marks > maxSpanMarks)
             return false;
+        // A line of text goes on with the item it follows.
+        if (kind !== Line.Text || before !== Line.Item)
+            before = kind;
     }
     return true;
+}
+
+/// What `line` begins; Line.Text where it may go on with the paragraph before it.
+function kindOf(line, before) {
+    if (/^[ \t]*$/.test(line))
+        return Line.Blank;
+    if (/^ {0,3}#{1,6} /.test(line))
+        return Line.Heading;
+    if (/^ {0,3}[-*+] +\S/.test(line))
+        return Line.Item;
+    // Within a paragraph a list can only begin with 1.
+    const number = line.match(/^ {0,3}(\d{1,9})[.)] +\S/);
+    return number && (before !== Line.Text || Number(number[1]) === 1) ? Line.Item : Line.Text;
 }
 
 function occurrences(text, pattern) {

@@ -58,6 +58,10 @@ public slots:
         }
         TestDesk::writeData(QStringLiteral("server.json"),
                             QStringLiteral("{\"apiBaseUrl\": \"%1\"}").arg(server->address()));
+        // A camera that is away has left its profile.
+        TestDesk::writeData(QStringLiteral("appsettings.json"),
+                            QStringLiteral(R"({ "camera": { "cameraId": "away" },
+                                "cameraProfiles": { "away": { "restoreOnConnect": true } } })"));
         engine->rootContext()->setContextProperty(QStringLiteral("testServer"), server);
         engine->rootContext()->setContextProperty(QStringLiteral("testDesk"), desk);
         engine->rootContext()->setContextProperty(QStringLiteral("testPictures"),

@@ -51,6 +51,7 @@ TestCase {
 
         Parts.SelectionComboBox {
             selectedIndex: 1
+            width: 200
             model: ["a", "b", "c"]
         }
     }
@@ -82,7 +83,7 @@ TestCase {
         const info = createTemporaryObject(infoComponent, testCase,
                                            { text: "Hilfe", x: 50, y: 50, hoverDelay: 10 });
         const tip = findChild(info, "helpTip");
-        verify(!tip.visible);
+        verify(!tip.opened);
         if (data.pointer)
             mouseMove(info, 7, 7);
         else
@@ -111,6 +112,27 @@ TestCase {
         // As assistive technology does.
         inner.value = 15;
         compare(spin.changes, [10, 15]);
+        // Beyond the range it shows the end of it, which nobody has chosen.
+        spin.value = 40;
+        spin.to = 12;
+        compare(inner.value, 12);
+        compare(spin.changes, [10, 15]);
+    }
+
+    function test_emptiedSpinBoxKeepsItsNumber() {
+        const spin = createTemporaryObject(spinComponent, testCase, { value: 8 });
+        const inner = findChild(spin, "spinBox");
+        inner.forceActiveFocus();
+        inner.contentItem.selectAll();
+        keyClick(Qt.Key_Backspace);
+        compare(inner.contentItem.text, "");
+        keyClick(Qt.Key_Return);
+        compare(spin.changes, []);
+        compare(inner.contentItem.text, "8");
+        inner.contentItem.selectAll();
+        keyClick("9");
+        keyClick(Qt.Key_Return);
+        compare(spin.changes, [9]);
     }
 
     function test_focusGoesOnFromWhatVanishes() {
@@ -131,5 +153,18 @@ TestCase {
         tryCompare(combo, "displayText", "y");
         combo.selectedIndex = 2;
         compare(combo.displayText, "z");
+    }
+
+    // The names of devices are not the program's own.
+    function test_namesAreShownAsTheyAre() {
+        const name = "<b>Kamera</b> & <i>Co</i>";
+        const combo = createTemporaryObject(comboComponent, testCase, { model: [name, "b"] });
+        combo.popup.open();
+        tryCompare(combo.popup, "opened", true);
+        const label = combo.popup.contentItem.itemAtIndex(0).contentItem;
+        compare([label.text, label.textFormat], [name, Text.PlainText]);
+        verify(label.contentWidth > combo.contentItem.contentWidth * 0.9, "with all its signs");
+        combo.popup.close();
+        tryCompare(combo.popup, "visible", false);
     }
 }

@@ -8,7 +8,7 @@ TestCase {
 
     name: "FocusPresetOverlay"
     when: windowShown
-    width: 400
+    width: 600
     height: 400
     visible: true
 
@@ -17,6 +17,18 @@ TestCase {
     Rectangle {
         anchors.fill: parent
         color: "#404040"
+
+        MouseArea {
+            id: picture
+
+            anchors.fill: parent
+        }
+    }
+
+    SignalSpy {
+        id: pressed
+
+        signalName: "pressed"
     }
 
     Parts.TypingEnd { }
@@ -181,6 +193,43 @@ TestCase {
             compare(overlay.renamingIndex, 0);
             keyClick(Qt.Key_Escape);
         }
+    }
+
+    // Its help lies beside a chip, and what lies under the help stays in reach.
+    function test_helpIsInNobodysWay() {
+        ViewModel.zoom = 2;
+        add("<b>eins</b>");
+        ViewModel.zoom = 3;
+        add("zwei");
+        const label = chipPart(0, "nameLabel");
+        compare([label.text, label.textFormat], ["<b>eins</b>", Text.PlainText]);
+        const button = part("focusTapButton");
+        const tip = findChild(button, "toolTip");
+        button.forceActiveFocus(Qt.TabFocusReason);
+        tryCompare(tip, "opened", true);
+        const under = tip.item.y + 10 + button.mapToItem(overlay, 0, 0).y;
+        verify(under > part("preset0").y && under < part("preset1").y + 30, `covers ${under}`);
+        mouseClick(overlay, 80, part("preset0").y + 15);
+        compare(ViewModel.zoom, 2);
+
+        const chipTip = findChild(part("preset0"), "chipTip");
+        mouseMove(part("preset0"), 80, 16);
+        tryCompare(chipTip, "opened", true);
+        verify(chipTip.item.x >= part("preset0").width, "beside");
+    }
+
+    // A press that just misses the cross would else be one on the picture.
+    function test_pressBesideTheCrossIsNoneOnThePicture() {
+        add("eins");
+        const chip = part("preset0");
+        const cross = chipPart(0, "removeButton");
+        pressed.target = picture;
+        pressed.clear();
+        mouseClick(chip, 22, 15);
+        mouseClick(chip, cross.x + 9, 1);
+        compare([pressed.count, names(), ViewModel.activeFocusPresetIndex], [0, ["eins"], 0]);
+        mouseClick(testCase, 300, 300);
+        compare(pressed.count, 1);
     }
 
     function test_removing() {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Meridax
+import "qrc:/qt/qml/Meridax/src/qml" as Parts
 import "qrc:/qt/qml/Meridax/src/qml/markdownText.mjs" as MarkdownText
 
 // What is installed, the legal texts, and the banner of a stable update without release notes.
@@ -8,6 +9,12 @@ WindowTestCase {
     id: testCase
 
     name: "InformationDialogs"
+
+    Component {
+        id: warningComponent
+
+        Parts.FewPositionsWarning {}
+    }
 
     function initTestCase() {
         testDesk.removeData("legal-docs.json");
@@ -178,14 +185,39 @@ WindowTestCase {
             { tag: "release notes", text: ViewModel.installedReleaseNotes, moderate: true },
             { tag: "long list", text: "- **Punkt:** `f`\n".repeat(1500), moderate: true },
             { tag: "long prose", text: "Ein *langer* Satz.\n\n".repeat(900), moderate: true },
+            { tag: "numbered list", text: "1. **Punkt:** `f`\n".repeat(200), moderate: true },
+            { tag: "counted list", moderate: true,
+              text: Array.from({ length: 200 }, (_, i) => `${i + 1}. **Punkt:** \`f\`\n`).join("") },
+            { tag: "of Windows", text: "1.1 **Punkt** mit Text.\r\n\r\n".repeat(200),
+              moderate: true },
+            { tag: "numbers that begin no list", text: "Text\n" + "2. `a` `b`\n".repeat(100) },
+            { tag: "lines of old systems", text: "- Punkt\r".repeat(25000) },
+            { tag: "blank to the eye alone", text: "`a` `b`\n\u00a0\n".repeat(100) },
             { tag: "endless list", text: "- Punkt\n".repeat(25000) },
             { tag: "endless table", text: "|a|b|\n|---|---|\n" + "|a|b|\n".repeat(1900) },
             { tag: "endless spans", text: "`a".repeat(1000) },
-            { tag: "spans over lines", text: "> `a` `b`\n1. `c` `d`\n".repeat(100) }
+            { tag: "spans over lines", text: "> `a` `b`\n2. `c` `d`\n".repeat(100) }
         ];
     }
     function test_excessiveMarkdown(data) {
         compare(MarkdownText.isModerate(data.text), data.moderate ?? false);
+    }
+
+    function test_fewPositionsWarning() {
+        open();
+        testDesk.forgetOpened();
+        const button = createTemporaryObject(warningComponent, window.contentItem,
+                                             { x: 500, y: 300, z: 50 });
+        tryVerify(() => {
+            window.requestActivate();
+            button.forceActiveFocus(Qt.TabFocusReason);
+            return button.visualFocus;
+        });
+        const tip = findChild(button, "toolTip");
+        tryCompare(tip, "opened", true);
+        verify(tip.item.contentItem.text.startsWith("Weniger als 6 Messpunkte"));
+        mouseClick(button);
+        compare(testDesk.opened, [ViewModel.docsUrl]);
     }
 
     function test_firstLine() {

@@ -298,6 +298,26 @@ WindowTestCase {
         compare([dialog.rating, comment.text], [0, ""]);
     }
 
+    // A tip that is no part of the dialog would lie behind it.
+    function test_starsTellWhatTheyMean() {
+        const dialog = openForm("feedback");
+        const names = ["Sehr unzufrieden", "Unzufrieden", "OK", "Gut", "Begeistert"];
+        for (let star = 1; star <= 5; ++star) {
+            const button = part(dialog, "star" + star);
+            const tip = findChild(button, "toolTip");
+            mouseMove(button, 20, 20);
+            tryCompare(tip, "opened", true);
+            compare(tip.item.contentItem.text, names[star - 1]);
+            const overlay = dialog.contentItem.parent.parent;
+            const layers = overlay.children;
+            const at = popup => layers.findIndex(layer => layer === popup.contentItem.parent);
+            verify(at(tip.item) >= 0 && at(dialog) >= 0);
+            const [over, under] = [layers[at(tip.item)], layers[at(dialog)]];
+            verify(over.z > under.z || over.z === under.z && at(tip.item) > at(dialog),
+                   `${over.z} over ${under.z}`);
+        }
+    }
+
     // The tab key leads through the form and not into its text; among the stars the arrows lead.
     function test_keysLeadThroughTheForm() {
         const dialog = openForm("feedback");
