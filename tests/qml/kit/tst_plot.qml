@@ -134,17 +134,6 @@ TestCase {
         compare(mark.clipped, data.clipped);
     }
 
-    function test_sigma_data() {
-        return [{ tag: "unknown", sigma: 0, radius: 0, clamped: false },
-                { tag: "small", sigma: 0.1, radius: 2.5, clamped: true },
-                { tag: "large", sigma: 0.5, radius: 7.5, clamped: false }];
-    }
-
-    function test_sigma(data) {
-        const plot = roundness([10, 12, 8], { sigma: data.sigma });
-        compare([plot.sigmaRadius, plot.sigmaClamped], [data.radius, data.clamped]);
-    }
-
     function test_nothingToDraw() {
         verify(roundness([10, 10, 10], { size: 69 }).drawn);
         verify(!roundness([10, 10, 10], { size: 68 }).drawn);

@@ -255,14 +255,6 @@ TestCase {
         tryCompare(part("commaHint"), "visible", false);
     }
 
-    function test_emptyFieldCommitsNothing() {
-        create({});
-        openEditor();
-        keyClick(Qt.Key_Backspace);
-        keyClick(Qt.Key_Enter);
-        compare(owner.moves, []);
-    }
-
     function test_escapeCancels() {
         create({});
         const editor = openEditor();

@@ -19,12 +19,6 @@ TestCase {
         Main {}
     }
 
-    SignalSpy {
-        id: commits
-
-        signalName: "triggered"
-    }
-
     function initTestCase() {
         // Creates the view model. A machine without sound server makes the media library warn.
         compare(ViewModel.running, false);
@@ -72,54 +66,6 @@ TestCase {
                    Qt.rect(window.x, window.y, window.width, window.height));
     }
 
-    function test_savedPosition_data() {
-        return [
-            { tag: "as saved", x: 50, y: 40, expectedX: 50, expectedY: 40 },
-            {
-                tag: "right and below of all screens", x: 9000, y: 9000,
-                expectedX: Screen.width - 120, expectedY: Screen.height - 80
-            },
-            { tag: "left and above", x: -9000, y: -9000, expectedX: -900 + 120, expectedY: 40 }
-        ];
-    }
-    function test_savedPosition(data) {
-        ViewModel.saveWindowGeometry(data.x, data.y, 900, 700, false);
-        open();
-        compare(window.width, 900);
-        compare(window.height, 700);
-        fuzzyCompare(window.x, data.expectedX, frameMargin);
-        fuzzyCompare(window.y, data.expectedY, frameMargin);
-    }
-
-    function test_savedMaximized() {
-        ViewModel.saveWindowGeometry(60, 70, 1200, 800, true);
-        open();
-        compare(window.visibility, Window.Maximized);
-        window.close();
-        compare(ViewModel.savedWindowMaximized, true);
-        compare(ViewModel.savedWindowWidth, 1200);
-        compare(ViewModel.savedWindowHeight, 800);
-        compare(ViewModel.savedWindowX, 60);
-        compare(ViewModel.savedWindowY, 70);
-    }
-
-    function test_maximizingKeepsTheNormalSize() {
-        ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
-        open();
-        commits.target = item("normalGeometryCommit");
-        window.width = 870;
-        commits.clear();
-        commits.wait();
-        compare(item("placement").normal.width, 870);
-        window.showMaximized();
-        commits.wait();
-        compare(item("placement").normal.width, 870);
-        window.close();
-        compare(ViewModel.savedWindowMaximized, true);
-        compare(ViewModel.savedWindowWidth, 870);
-        compare(ViewModel.savedWindowHeight, 650);
-    }
-
     function test_settingsLeaveTheWindowAsItIs() {
         ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
         open();
@@ -129,15 +75,6 @@ TestCase {
         window.showMaximized();
         ViewModel.darkMode = !ViewModel.darkMode;
         compare(window.visibility, Window.Maximized);
-    }
-
-    function test_resizingJustBeforeClosing() {
-        ViewModel.saveWindowGeometry(20, 30, 850, 650, false);
-        open();
-        window.width = 910;
-        window.close();
-        compare(ViewModel.savedWindowWidth, 910);
-        compare(ViewModel.savedWindowMaximized, false);
     }
 
     function test_tooSmallIsNeverSaved() {

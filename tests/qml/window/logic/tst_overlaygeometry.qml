@@ -102,13 +102,6 @@ TestCase {
         compare(Geometry.draggedRadius(data.x, data.y, view), data.radius);
     }
 
-    function test_edgeHandleLiesInTheDirectionOfThePointer() {
-        const handle = Geometry.edgeHandle(430, 340, view, 100);
-        fuzzyCompare(handle.x, 520, 1e-6);
-        fuzzyCompare(handle.y, 460, 1e-6);
-        compare(Geometry.edgeHandle(400, 300, view, 100), Qt.point(400, 300));
-    }
-
     function test_dashPattern() {
         compare(Geometry.dashPattern(0, 2), []);
         compare(Geometry.dashPattern(1, 2), [12, 6]);
