@@ -35,6 +35,7 @@ constexpr int kLongestPauseMs = 1000;
 /// What program and Qt say of a camera that is gone and of a server that is not there. All else
 /// that is a warning is a fault.
 const QStringList kExpected{u"[camera] QCamera error: Gerät nicht mehr vorhanden"_s,
+                            u"[camera] V4L2-Kamera Meridax Simulated Camera antwortet nicht"_s,
                             u"Couldn't add V4L2 buffer 19 "_s, // ENODEV
                             u"Cannot add buffer"_s,
                             u"Cannot take buffer"_s,
