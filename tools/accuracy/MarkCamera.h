@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PixelNoise.h"
+#include "Presets.h"
 #include "RealScene.h"
 
 #include <QPointF>
@@ -32,16 +33,23 @@ public:
 
     /// Starts anew under these conditions.
     void setUp(const MarkConditions &conditions);
+    /// Starts anew with a preset of the simulated camera, in frames of 1280 x 720 px.
+    void setUp(const simcam::Preset &preset);
 
     /// The next grey picture, with the mark at `angle` [deg]; valid until the one after.
     const cv::Mat &shoot(double angle);
     /// The mark in the last picture.
     QPointF mark() const { return m_mark; }
+    /// Radius of the mark along its longer axis [px].
+    double markRadius() const;
+    /// Grey levels between the ground and the middle of the mark, as the blur leaves them.
+    double seenContrast() const;
     /// What the camera turns about.
     QPointF centre() const;
 
 private:
     std::unique_ptr<simcam::State> m_state;
+    simcam::FrameSize m_size;
     simcam::RealScene m_scene;
     simcam::PixelNoise m_noise;
     simcam::Planes m_planes;

@@ -20,16 +20,6 @@ double distance(QPointF a, QPointF b)
     return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
-/// Part of the contrast that the blur leaves in the middle of the mark.
-double seenShare(const MarkConditions &conditions)
-{
-    constexpr double lens = 0.9; // of a picture in focus
-    const double radius = conditions.diameter / 2.0;
-    const simcam::DiscMark mark{
-        {}, radius, radius * conditions.axes, 0.0, std::hypot(lens, conditions.defocus)};
-    return mark.coverage({});
-}
-
 /// The centre of the circle through all positions, or why there is none.
 struct Attempt
 {
@@ -37,7 +27,7 @@ struct Attempt
     QString reason;
 };
 
-Attempt measure(MarkCamera &camera, const MarkConditions &conditions, const BlobSettings &settings)
+Attempt measure(MarkCamera &camera, const BlobSettings &settings)
 {
     const cv::Ptr<cv::SimpleBlobDetector> detector = createBlobDetector(settings);
     cv::Mat scaled;
@@ -54,7 +44,7 @@ Attempt measure(MarkCamera &camera, const MarkConditions &conditions, const Blob
                                           .arg(blobs.size())};
             const cv::Point2d refined = refineBlobCentre(picture, blobs[0]);
             const QPointF found(refined.x, refined.y);
-            if (distance(found, camera.mark()) > conditions.diameter / 2.0)
+            if (distance(found, camera.mark()) > camera.markRadius())
                 return {
                     std::nullopt,
                     QStringLiteral("position %1, frame %2: another blob").arg(position).arg(frame)};
@@ -68,7 +58,8 @@ Attempt measure(MarkCamera &camera, const MarkConditions &conditions, const Blob
 }
 
 /// What the button of the program sets after some pictures of the mark at the first position.
-std::optional<BlobSettings> click(MarkCamera &camera, const BlobSettings &settings, QString &reason)
+std::optional<BlobSettings> click(MarkCamera &camera, const BlobSettings &settings,
+                                  MarkOutcome &outcome)
 {
     std::vector<BlobScan> scans;
     std::vector<BlobCandidate> candidates;
@@ -89,34 +80,35 @@ std::optional<BlobSettings> click(MarkCamera &camera, const BlobSettings &settin
             sightings.push_back({&scans[i], &candidates[i]});
     }
     if (sightings.empty()) {
-        reason = QStringLiteral("no candidate");
+        outcome.reason = QStringLiteral("no candidate");
         return std::nullopt;
     }
     if (const double off = distance(candidates.back().centre, camera.mark()); off > 5.0) {
-        reason =
+        outcome.reason =
             QStringLiteral("the nearest candidate is %1 px beside the mark").arg(off, 0, 'f', 0);
         return std::nullopt;
     }
+    outcome.lacks = candidates.back().shortfalls;
     const Mending mending = mendingSettings(sightings, settings);
     if (!mending.settings)
-        reason = mending.inTheWay < 0 ? QStringLiteral("no settings let the candidate through")
-                                      : QStringLiteral("something is in the way");
+        outcome.reason = mending.inTheWay < 0
+                             ? QStringLiteral("no settings let the candidate through")
+                             : QStringLiteral("something is in the way");
     return mending.settings;
 }
 
 } // namespace
 
-MarkOutcome calibrate(MarkCamera &camera, const MarkConditions &conditions)
+MarkOutcome calibrate(MarkCamera &camera)
 {
-    camera.setUp(conditions);
     MarkOutcome outcome;
-    outcome.seenContrast = conditions.contrast * seenShare(conditions);
-    Attempt attempt = measure(camera, conditions, BlobSettings{});
+    outcome.seenContrast = camera.seenContrast();
+    Attempt attempt = measure(camera, BlobSettings{});
     outcome.foundByDefault = attempt.centre.has_value();
     if (!attempt.centre) {
-        outcome.set = click(camera, BlobSettings{}, outcome.reason);
+        outcome.set = click(camera, BlobSettings{}, outcome);
         if (outcome.set) {
-            attempt = measure(camera, conditions, *outcome.set);
+            attempt = measure(camera, *outcome.set);
             outcome.reason = attempt.reason;
         }
     }

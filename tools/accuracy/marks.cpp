@@ -55,8 +55,10 @@ void calibrateAll(std::vector<Cell> &cells)
     std::atomic<size_t> next = 0;
     const auto work = [&] {
         MarkCamera camera;
-        for (size_t i = next++; i < cells.size(); i = next++)
-            cells[i].outcome = calibrate(camera, cells[i].conditions);
+        for (size_t i = next++; i < cells.size(); i = next++) {
+            camera.setUp(cells[i].conditions);
+            cells[i].outcome = calibrate(camera);
+        }
     };
     std::vector<std::jthread> threads;
     for (unsigned i = 0; i < std::max(1U, std::thread::hardware_concurrency()); ++i)
@@ -105,6 +107,36 @@ QString summary(const std::vector<Cell> &cells, const std::function<bool(const C
     return QStringLiteral("%1 (%2)").arg(counts).arg(*middle, 0, 'f', 3);
 }
 
+QString valuesOf(const BlobSettings &settings)
+{
+    return QStringLiteral("thresholds %1 to %2, area %3 to %4, circularity %5, inertia %6")
+        .arg(settings.minThreshold)
+        .arg(settings.maxThreshold)
+        .arg(settings.filterByArea ? settings.minArea : 0.0)
+        .arg(settings.filterByArea ? settings.maxArea : 0.0)
+        .arg(settings.filterByCircularity ? settings.minCircularity : 0.0)
+        .arg(settings.filterByInertia ? settings.minInertiaRatio : 0.0);
+}
+
+void printPresets()
+{
+    printHead(QStringLiteral("Presets of the simulated camera"),
+              {QStringLiteral("preset"), QStringLiteral("by default"),
+               QStringLiteral("after one click"), QStringLiteral("error of the centre, px"),
+               QStringLiteral("values set")});
+    MarkCamera camera;
+    for (const simcam::Preset &preset : simcam::presets()) {
+        camera.setUp(preset);
+        const MarkOutcome outcome = calibrate(camera);
+        const auto found = [](bool is) {
+            return is ? QStringLiteral("found") : QStringLiteral("not found");
+        };
+        printRow({QString::fromUtf8(preset.name), found(outcome.foundByDefault),
+                  found(outcome.foundAfterClick), QString::number(outcome.centreError, 'f', 3),
+                  outcome.set ? valuesOf(*outcome.set) : QStringLiteral("–")});
+    }
+}
+
 using Value = double MarkConditions::*;
 
 std::vector<double> valuesOf(const std::vector<Cell> &cells, Value value)
@@ -147,16 +179,8 @@ void printMisses(const std::vector<Cell> &cells, bool expected)
                          QString::number(c.diameter),
                          QString::number(o.seenContrast, 'f', 0),
                          o.reason};
-        if (o.set) {
-            line.last() += QStringLiteral("; thresholds %1 to %2, area %3 to %4, circularity %5, "
-                                          "inertia %6")
-                               .arg(o.set->minThreshold)
-                               .arg(o.set->maxThreshold)
-                               .arg(o.set->filterByArea ? o.set->minArea : 0)
-                               .arg(o.set->filterByArea ? o.set->maxArea : 0)
-                               .arg(o.set->filterByCircularity ? o.set->minCircularity : 0)
-                               .arg(o.set->filterByInertia ? o.set->minInertiaRatio : 0);
-        }
+        if (o.set)
+            line.last() += QStringLiteral("; ") + valuesOf(*o.set);
         printRow(line);
     }
 }
@@ -188,6 +212,7 @@ int main()
     std::vector<Cell> cells = grid();
     calibrateAll(cells);
 
+    printPresets();
     using C = MarkConditions;
     printTable(QStringLiteral("Mark found by default / after one click, by noise and contrast"),
                cells, QStringLiteral("noise"), &C::noise, QStringLiteral("contrast"), &C::contrast);

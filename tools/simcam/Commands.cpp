@@ -125,6 +125,14 @@ void setCommand(const std::string &dir, Arguments arguments)
     assign(state, assignments);
 }
 
+void presetCommand(const std::string &dir, Arguments arguments)
+{
+    State &state = stateOf(dir, arguments);
+    if (arguments.size() != 1)
+        throw UserError("preset: give its name");
+    assign(state, presetAssignments(arguments.front()));
+}
+
 void getCommand(const std::string &dir, Arguments arguments)
 {
     const State &state = stateOf(dir, arguments);

@@ -12,6 +12,7 @@ void plugCommand(const std::string &dir, Arguments arguments);
 void unplugCommand(const std::string &dir, Arguments arguments);
 void listCommand(const std::string &dir, Arguments arguments);
 void setCommand(const std::string &dir, Arguments arguments);
+void presetCommand(const std::string &dir, Arguments arguments);
 void getCommand(const std::string &dir, Arguments arguments);
 void truthCommand(const std::string &dir, Arguments arguments);
 void turnCommand(const std::string &dir, Arguments arguments);

@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "Presets.h"
+
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
@@ -68,12 +70,22 @@ PlugOptions takePlugOptions(Arguments &arguments)
         throw UserError("name longer than 31 bytes: " + options.name);
     options.hasMetadataNode = !takeFlag(arguments, "--no-metadata");
     options.isNew = takeFlag(arguments, "--new");
+    if (const std::string preset = takeOption(arguments, "--preset"); !preset.empty())
+        options.scene = presetAssignments(preset);
     for (const ParamInfo &parameter : parameters()) {
         const std::string value = takeOption(arguments, std::string("--") + parameter.name);
         if (!value.empty())
             options.scene.push_back(assignment(parameter.name, value));
     }
     return options;
+}
+
+std::vector<Assignment> presetAssignments(const std::string &name)
+{
+    const Preset *preset = findPreset(name);
+    if (!preset)
+        throw UserError("unknown preset: " + name);
+    return assignmentsOf(*preset);
 }
 
 Assignment parseAssignment(const std::string &text)

@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace meridax::simcam {
@@ -17,7 +16,6 @@ public:
 };
 
 using Arguments = std::vector<std::string>;
-using Assignment = std::pair<Param, float>;
 
 /// Where and what to plug in.
 struct PlugOptions
@@ -36,9 +34,12 @@ std::string takeOption(Arguments &arguments, const std::string &name);
 /// Takes the flag `name` out of `arguments`; true if it was there.
 bool takeFlag(Arguments &arguments, const std::string &name);
 
-/// Takes everything that `plug` knows out of `arguments`: --node, --name, --no-metadata, --new and
-/// every parameter of the scene as an option.
+/// Takes everything that `plug` knows out of `arguments`: --node, --name, --no-metadata, --new,
+/// --preset and every parameter of the scene as an option, which is stronger than the preset.
 PlugOptions takePlugOptions(Arguments &arguments);
+
+/// What the preset called `name` sets.
+std::vector<Assignment> presetAssignments(const std::string &name);
 
 /// "key=value" as a parameter and its value.
 Assignment parseAssignment(const std::string &text);

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace meridax::simcam {
 
@@ -91,6 +92,9 @@ struct ParamInfo
     bool fault; ///< a failure of the device: gone after it is plugged in again
     const char *help;
 };
+
+/// A parameter and its value.
+using Assignment = std::pair<Param, float>;
 
 /// All parameters in the order of Param.
 std::span<const ParamInfo> parameters();

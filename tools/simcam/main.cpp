@@ -1,6 +1,7 @@
 // Plugs, drives and unplugs simulated cameras, and runs programs with them.
 
 #include "Commands.h"
+#include "Presets.h"
 #include "Run.h"
 
 #include <cstdio>
@@ -20,12 +21,14 @@ constexpr char kHelp[] =
     "                        run a program with a camera, in a fresh directory unless --dir is\n"
     "                        given; FILE is preloaded first (libasan); --unplugged starts\n"
     "                        without a camera\n"
-    "  plug [--node videoN] [--name NAME] [--no-metadata] [--new] [--PARAMETER VALUE]...\n"
+    "  plug [--node videoN] [--name NAME] [--no-metadata] [--new] [--preset NAME]\n"
+    "       [--PARAMETER VALUE]...\n"
     "                        plug the camera in: the one unplugged last if there is one and\n"
     "                        --new is not given, else a new one\n"
     "  unplug                pull it out\n"
     "  list                  the cameras that are plugged in\n"
     "  set PARAMETER=VALUE...\n"
+    "  preset NAME           a picture with a name; plug and run know --preset NAME, too\n"
     "  get [KEY]             one value, or all as key=value lines\n"
     "  truth                 centre, radius, form error, angle and mark, in pixels of the\n"
     "                        present format\n"
@@ -44,6 +47,9 @@ void printHelp()
     std::fputs(kHelp, stdout);
     for (const ParamInfo &p : parameters())
         std::printf("  %-15s %s, default %g\n", p.name, p.help, double(p.defaultValue));
+    std::puts("\nPresets, all of scene 1:");
+    for (const Preset &p : presets())
+        std::printf("  %-15s %s\n", p.name, p.help);
 }
 
 struct Verb
@@ -57,7 +63,7 @@ constexpr Verb kVerbs[] = {
     {"list", listCommand}, {"set", setCommand},
     {"get", getCommand},   {"truth", truthCommand},
     {"turn", turnCommand}, {"auto-turn", autoTurnCommand},
-    {"play", playCommand},
+    {"play", playCommand}, {"preset", presetCommand},
 };
 
 /// The options before the program that `run` starts; its own arguments are none of ours.
