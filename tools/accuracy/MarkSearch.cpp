@@ -1,6 +1,6 @@
 #include "MarkSearch.h"
 
-#include "measurement/BlobMending.h"
+#include "measurement/CandidateSearch.h"
 #include "measurement/CircleFit.h"
 #include "measurement/GuideGeometry.h"
 
@@ -57,44 +57,32 @@ Attempt measure(MarkCamera &camera, const BlobSettings &settings)
                      : Attempt{std::nullopt, QStringLiteral("no circle")};
 }
 
-/// What the button of the program sets after some pictures of the mark at the first position.
+/// What the button of the program sets, pressed soon after it is offered at the first position.
 std::optional<BlobSettings> click(MarkCamera &camera, const BlobSettings &settings,
                                   MarkOutcome &outcome)
 {
-    std::vector<BlobScan> scans;
-    std::vector<BlobCandidate> candidates;
-    scans.reserve(framesBeforeClick);
-    candidates.reserve(framesBeforeClick);
-    for (int frame = 0; frame < framesBeforeClick; ++frame) {
+    constexpr int patience = 24; // pictures that are searched
+    constexpr int reaction = 4;
+    const cv::Ptr<cv::SimpleBlobDetector> detector = createBlobDetector(settings);
+    CandidateSearch search;
+    cv::Mat scaled;
+    int offered = 0;
+    for (int frame = 0; frame < patience && offered < reaction; ++frame) {
         const cv::Mat &picture = camera.shoot(guideAngle(0, positions));
-        BlobScan scan = scanOutlines(picture, 1.0, settings);
-        const std::vector<BlobCandidate> found = candidatesOf(scan, picture, settings);
-        if (found.empty())
-            continue;
-        scans.push_back(std::move(scan));
-        candidates.push_back(found.front());
+        const auto blobs = static_cast<int>(detectBlobs(*detector, picture, scaled).size());
+        if (blobs != 1)
+            search.search(picture, 1.0, settings, blobs);
+        offered += search.advice().proposal ? 1 : 0;
     }
-    std::vector<BlobSighting> sightings;
-    for (size_t i = candidates.size(); i-- > 0;) {
-        if (distance(candidates[i].centre, candidates.back().centre) < 5.0)
-            sightings.push_back({&scans[i], &candidates[i]});
-    }
-    if (sightings.empty()) {
-        outcome.reason = QStringLiteral("no candidate");
-        return std::nullopt;
-    }
-    if (const double off = distance(candidates.back().centre, camera.mark()); off > 5.0) {
-        outcome.reason =
-            QStringLiteral("the nearest candidate is %1 px beside the mark").arg(off, 0, 'f', 0);
-        return std::nullopt;
-    }
-    outcome.lacks = candidates.back().shortfalls;
-    const Mending mending = mendingSettings(sightings, settings);
-    if (!mending.settings)
-        outcome.reason = mending.inTheWay < 0
-                             ? QStringLiteral("no settings let the candidate through")
-                             : QStringLiteral("something is in the way");
-    return mending.settings;
+
+    const BlobAdvice &advice = search.advice();
+    if (!advice.shown.empty())
+        outcome.lacks = advice.shown.front().shortfalls;
+    if (!advice.proposal)
+        outcome.reason = advice.shown.empty() ? QStringLiteral("no candidate")
+                         : advice.inTheWay    ? QStringLiteral("something is in the way")
+                                              : QStringLiteral("no offer");
+    return advice.proposal;
 }
 
 } // namespace
