@@ -1,5 +1,5 @@
-# The catalogues, compiled to :/i18n/<language>.qm. The German one holds plural forms only, since the
-# texts of the sources are German. `./dev translate` brings them up to date with the sources.
+# The catalogues, compiled to :/i18n/<language>.qm. The German one is empty and never loaded, since
+# the texts of the sources are German. `./dev translate` brings them up to date with the sources.
 
 set(_catalogues "")
 foreach(_language IN ITEMS de ${QT_I18N_TRANSLATED_LANGUAGES})

@@ -2,19 +2,18 @@
 #include "app/TitleBar.h"
 #include "camera/ControlThread.h"
 #include "diagnostics/CrashHandler.h"
+#include "diagnostics/DataFolder.h"
 #include "diagnostics/LogManager.h"
 #include "items/LinkColor.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/LanguageSwitch.h"
-#include "viewmodel/QtTexts.h"
 
-#include <QDir>
+#include <QDebug>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QLockFile>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
-#include <QStandardPaths>
 #include <QTranslator>
 #include <QWindow>
 
@@ -45,24 +44,18 @@ void setDesktopIdentity()
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/resources/app_icon.svg")));
 }
 
-QString dataFolder()
+/// Without the lock: hands over to the instance that holds it, or says why nobody can have it.
+/// Returns the exit code.
+int endWithoutLock(QLockFile::LockError error)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QDir().mkpath(folder);
-    return folder;
-}
-
-// Before any QML text exists, since the scene takes its texts from it.
-void installLanguage(QTranslator &translator)
-{
-    const QString language = loadSettings().language;
-    translateQtTexts(language);
-    if (language == QLatin1StringView("de"))
-        return; // the texts of the sources are German
-    if (translator.load(QStringLiteral(":/i18n/%1.qm").arg(language))) {
-        QCoreApplication::installTranslator(&translator);
-        setStartupTranslator(&translator);
+    if (error == QLockFile::LockFailedError) {
+        activateRunningInstance();
+        return EXIT_SUCCESS;
     }
+    qCritical().noquote() << "[main] Meridax kann nicht starten: im Ordner" << dataFolder()
+                          << "lässt sich keine Datei anlegen. Ist der Datenträger voll oder "
+                             "schreibgeschützt, oder gehört der Ordner jemand anderem?";
+    return EXIT_FAILURE;
 }
 
 QWindow *rootWindow(const QQmlApplicationEngine &engine)
@@ -76,11 +69,10 @@ int runProgram(int argc, char *argv[])
 {
     // The data folder is derived from the names, and the lock lies in it.
     setApplicationIdentity();
-    QLockFile lock(dataFolder() + QLatin1StringView("/meridax.lock"));
-    if (!lock.tryLock(kLockTimeoutMs)) {
-        activateRunningInstance();
-        return 0;
-    }
+    makeDataFolder();
+    QLockFile lock(dataFilePath(QLatin1StringView("meridax.lock")));
+    if (!lock.tryLock(kLockTimeoutMs))
+        return endWithoutLock(lock.error());
     // After the lock, so that one process only writes the log; before the application, so that its
     // construction is covered.
     LogManager::install();
@@ -91,7 +83,9 @@ int runProgram(int argc, char *argv[])
     setDesktopIdentity();
     QQuickStyle::setStyle(QStringLiteral("Material"));
     QTranslator translator;
-    installLanguage(translator);
+    // Before any QML text exists, since the scene takes its texts from it.
+    if (installLanguage(loadSettings().language, translator))
+        setStartupTranslator(&translator);
     setLinkColor();
 
     QQmlApplicationEngine engine;

@@ -1,6 +1,7 @@
 #include "diagnostics/CrashFilter.h"
 
 #include "diagnostics/CrashSignals.h"
+#include "diagnostics/Immortal.h"
 #include "diagnostics/LoadedModule.h"
 #include "diagnostics/SignalStack.h"
 #include "diagnostics/ThrowSite.h"
@@ -18,7 +19,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
-#include <memory>
 
 // Whatever runs after a signal calls only what is safe in a signal handler: nothing that uses the
 // heap or takes a lock that the interrupted code may hold.
@@ -195,11 +195,11 @@ void installHandlers()
 void installFilter(const FilterSetup &setup)
 {
     std::error_code unknown;
-    auto made = std::make_unique<Prepared>();
+    auto *const made = immortal<Prepared>();
     made->setup = setup;
     made->program = std::filesystem::read_symlink("/proc/self/exe", unknown).filename().string();
     made->terminate = std::get_terminate();
-    prepared = made.release();
+    prepared = made;
     coverThread();
     std::set_terminate(onTerminate);
     installHandlers();

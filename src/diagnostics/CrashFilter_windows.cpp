@@ -1,5 +1,7 @@
 #include "diagnostics/CrashFilter.h"
 
+#include "diagnostics/Immortal.h"
+
 #include <windows.h>
 
 #include <array>
@@ -7,7 +9,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <exception>
-#include <memory>
 
 namespace meridax::crash {
 
@@ -103,7 +104,7 @@ void onAbort(int)
 
 void installFilter(const FilterSetup &setup)
 {
-    prepared = std::make_unique<FilterSetup>(setup).release();
+    prepared = immortal<FilterSetup>(setup);
     coverThread();
     std::signal(SIGABRT, onAbort);
     SetUnhandledExceptionFilter(onException);

@@ -2,21 +2,15 @@
 
 #include "BuildInfo.h"
 #include "diagnostics/CrashFilter.h"
+#include "diagnostics/DataFolder.h"
 #include "diagnostics/LogManager.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QFile>
-#include <QStandardPaths>
 
 namespace meridax {
 
 namespace {
-
-QString dataFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-}
 
 bool writeNewestLines(const crash::ReportFile &file)
 {
@@ -27,7 +21,7 @@ bool writeNewestLines(const crash::ReportFile &file)
 
 void CrashHandler::install()
 {
-    QDir().mkpath(dataFolder());
+    makeDataFolder();
     crash::installFilter({.file = std::filesystem::path(crashFilePath().toStdU16String()),
                           .version = build::version().toStdString(),
                           .commit = build::commit().toStdString(),
@@ -44,7 +38,7 @@ void CrashHandler::coverThread()
 
 QString CrashHandler::crashFilePath()
 {
-    return dataFolder() + QLatin1StringView("/crash.txt");
+    return dataFilePath(QLatin1StringView("crash.txt"));
 }
 
 bool CrashHandler::hasCrashFile()

@@ -1,11 +1,15 @@
 #include "diagnostics/LogManager.h"
 
+#include "diagnostics/DataFolder.h"
+#include "diagnostics/Immortal.h"
+#include "diagnostics/LogFile.h"
+#include "diagnostics/LogFlood.h"
 #include "diagnostics/Utf8Stream.h"
 
+#include <QCoreApplication>
 #include <QDebug>
-#include <QDir>
 #include <QFile>
-#include <QStandardPaths>
+#include <QLoggingCategory>
 #include <QStringList>
 
 #include <algorithm>
@@ -13,20 +17,18 @@
 #include <atomic>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
-#include <memory>
 #include <mutex>
+#include <vector>
 
 namespace meridax {
 
 namespace {
 
 constexpr int kRingCapacity = 500;
-constexpr qint64 kMaxLogFileSize = 1'048'576;
-constexpr int kBackupCount = 3;
-constexpr QIODevice::OpenMode kLogFileMode =
-    QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text;
 constexpr std::chrono::milliseconds kCrashLockWait{50};
+constexpr std::chrono::seconds kStampAge{1};
 
 std::atomic<bool> installed = false;
 std::atomic<QtMessageHandler> previousHandler = nullptr;
@@ -36,12 +38,19 @@ std::mutex logMutex;
 
 struct LogState
 {
-    std::unique_ptr<QFile> logFile; ///< null when it could not be opened
-    qint64 logFileSize = 0;         ///< bytes, as counted here
+    LogFile file;
     std::array<QString, kRingCapacity> ring;
     qint32 ringNext = 0;  ///< the slot of the next line
     qint32 ringCount = 0; ///< slots in use
+    LogFlood flood;
+    bool isEnding = false; ///< nothing is counted any more: nobody would tell it
 
+    int untoldKinds() const
+    {
+        const auto count = std::ranges::count_if(
+            flood.kinds(), [](const LogFlood::Kind &kind) { return kind.untold > 0; });
+        return static_cast<int>(count);
+    }
     /// How many lines a request for `lines` gives.
     int tailLength(int lines) const
     {
@@ -55,58 +64,42 @@ struct LogState
     }
 };
 
-/// Never destroyed: threads and static destructors may log after main() has returned.
 LogState &logState()
 {
-    static LogState &state = *std::make_unique<LogState>().release();
-    return state;
+    static LogState *const state = immortal<LogState>();
+    return *state;
 }
 
-/// The current log for 0, else a backup, the oldest being kBackupCount.
-QString pathOf(int index)
+/// What tell() writes, in pieces.
+void writeRepeats(Utf8Stream &out, const LogFlood::Kind &kind)
 {
-    const QString current = LogManager::logFilePath();
-    return index <= 0 ? current : current + QStringLiteral(".%1").arg(index);
+    std::array<char16_t, 20> digits; // of the largest number
+    auto first = digits.end();
+    for (qint64 rest = kind.untold; rest > 0; rest /= 10)
+        *--first = static_cast<char16_t>(u'0' + rest % 10);
+    out.append(u"\n");
+    out.append(kind.stamp);
+    out.append({&*first, digits.end() - first});
+    out.append(u"-mal wiederholt: ");
+    out.append(kind.shown);
 }
 
-void openLogFile(LogState &state)
+void append(LogState &state, const QString &line, const QByteArray &bytes)
 {
-    QDir().mkpath(LogManager::logDirectory());
-    state.logFile = std::make_unique<QFile>(LogManager::logFilePath());
-    if (state.logFile->open(kLogFileMode))
-        state.logFileSize = state.logFile->size();
-    else
-        state.logFile.reset();
+    state.file.write(bytes);
+    state.ring[static_cast<std::size_t>(state.ringNext)] = line;
+    state.ringNext = (state.ringNext + 1) % kRingCapacity;
+    state.ringCount = std::min(state.ringCount + 1, kRingCapacity);
 }
 
-void rotate(LogState &state)
+void tell(LogState &state, const std::vector<LogFlood::Kind> &kinds)
 {
-    state.logFile->close();
-    for (int index = kBackupCount; index >= 1; --index) {
-        const QString to = pathOf(index);
-        const QString from = pathOf(index - 1);
-        if (index == kBackupCount)
-            QFile::remove(to);
-        if (QFile::exists(from))
-            QFile::rename(from, to);
+    for (const LogFlood::Kind &kind : kinds) {
+        const QString text = QStringLiteral("[LogManager] %1-mal wiederholt: %2")
+                                 .arg(QString::number(kind.untold), kind.shown);
+        const QString line = LogManager::compose(kind.type, {}, text);
+        append(state, line, line.toUtf8() + '\n');
     }
-    state.logFile->setFileName(LogManager::logFilePath());
-    if (!state.logFile->open(kLogFileMode))
-        state.logFile.reset();
-    state.logFileSize = 0;
-}
-
-void writeToFile(LogState &state, const QByteArray &line)
-{
-    if (!state.logFile || !state.logFile->isOpen())
-        return;
-    const qint64 written = state.logFile->write(line);
-    if (written > 0) {
-        state.logFileSize += written;
-        state.logFile->flush();
-    }
-    if (state.logFileSize >= kMaxLogFileSize)
-        rotate(state);
 }
 
 void storeLine(const QString &line)
@@ -114,16 +107,57 @@ void storeLine(const QString &line)
     const QByteArray bytes = line.toUtf8() + '\n';
     const std::lock_guard lock(logMutex);
     LogState &state = logState();
-    writeToFile(state, bytes);
-    state.ring[static_cast<std::size_t>(state.ringNext)] = line;
-    state.ringNext = (state.ringNext + 1) % kRingCapacity;
-    state.ringCount = std::min(state.ringCount + 1, kRingCapacity);
+    tell(state, state.flood.takeDue(LogFlood::Clock::now()));
+    append(state, line, bytes);
+}
+
+/// Whether the message has only to be counted.
+bool isRepetition(QtMsgType type, const char *category, const QString &message)
+{
+    const auto now = LogFlood::Clock::now();
+    const std::lock_guard lock(logMutex);
+    LogState &state = logState();
+    tell(state, state.flood.takeDue(now));
+    LogFlood::Kind *const kind = state.flood.count(type, category, message, now);
+    if (kind && now - kind->stamped >= kStampAge) {
+        kind->stamp = LogManager::compose(type, {}, QStringLiteral("[LogManager] "));
+        kind->stamped = now;
+    }
+    return kind != nullptr;
+}
+
+void watchFor(QtMsgType type, const char *category, const QString &message)
+{
+    const QString shown = LogManager::sanitize(message);
+    const std::lock_guard lock(logMutex);
+    LogState &state = logState();
+    if (!state.isEnding)
+        tell(state, state.flood.watch(type, category, message, shown, LogFlood::Clock::now()));
+}
+
+void tellEverything()
+{
+    const std::lock_guard lock(logMutex);
+    LogState &state = logState();
+    tell(state, state.flood.takeAll());
+}
+
+void tellForTheLastTime()
+{
+    tellEverything();
+    const std::lock_guard lock(logMutex);
+    logState().isEnding = true;
 }
 
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     try {
-        storeLine(LogManager::sanitize(LogManager::compose(type, context, message)));
+        const bool mayRepeat = LogFlood::mayRepeat(context.category);
+        if (!mayRepeat || !isRepetition(type, context.category, message)) {
+            storeLine(LogManager::sanitize(LogManager::compose(type, context, message)));
+            if (mayRepeat)
+                watchFor(type, context.category, message);
+        }
     } catch (const std::exception &error) {
         std::fputs(error.what(), stderr); // no memory: the line is lost, the program is not
     }
@@ -153,20 +187,24 @@ void LogManager::install()
     QString file = QStringLiteral("<keine>");
     {
         const std::lock_guard lock(logMutex);
-        LogState &state = logState();
-        openLogFile(state);
-        if (state.logFile)
-            file = state.logFile->fileName();
+        LogFile &log = logState().file;
+        log.open();
+        if (!log.name().isEmpty())
+            file = log.name();
     }
+    // A file of the system may have switched debug lines off, and with them half of every report.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true"));
     previousHandler = qInstallMessageHandler(handleMessage);
+    // The first while all of Qt is alive, the second where exit() is called from within.
+    qAddPostRoutine(tellForTheLastTime);
+    std::atexit(tellForTheLastTime);
     qInfo().noquote() << "[LogManager] Logging gestartet — Datei:" << file
                       << " Ringbuffer:" << kRingCapacity << "Zeilen";
 }
 
 QString LogManager::logDirectory()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-           QLatin1StringView("/logs");
+    return dataFilePath(QLatin1StringView("logs"));
 }
 
 QString LogManager::logFilePath()
@@ -176,6 +214,7 @@ QString LogManager::logFilePath()
 
 QString LogManager::tail(int lines)
 {
+    tellEverything();
     QStringList newest;
     {
         const std::lock_guard lock(logMutex);
@@ -194,12 +233,17 @@ bool LogManager::writeTail(int lines, TailWriter write, std::intptr_t target)
         return false;
     const std::lock_guard lock(logMutex, std::adopt_lock);
     const LogState &state = logState();
-    const int count = state.tailLength(lines);
+    const int untold = state.untoldKinds();
+    const int count = lines < 1 ? state.ringCount : state.tailLength(std::max(lines - untold, 1));
     Utf8Stream out(write, target);
     for (int i = 0; i < count; ++i) {
         if (i > 0)
             out.append(u"\n");
         out.append(state.tailLine(i, count));
+    }
+    for (const LogFlood::Kind &kind : state.flood.kinds()) {
+        if (kind.untold > 0)
+            writeRepeats(out, kind);
     }
     out.flush();
     return count > 0;
@@ -207,9 +251,10 @@ bool LogManager::writeTail(int lines, TailWriter write, std::intptr_t target)
 
 QString LogManager::tailFromFiles(int lines)
 {
+    tellEverything();
     QStringList all;
-    for (int index = kBackupCount; index >= 0; --index) {
-        QFile file(pathOf(index));
+    for (int index = LogFile::kBackupCount; index >= 0; --index) {
+        QFile file(LogFile::path(index));
         if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
             continue;
         while (!file.atEnd())

@@ -1,10 +1,9 @@
+#include "diagnostics/Immortal.h"
 #include "diagnostics/LogManager.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QStringList>
-
-#include <memory>
 
 namespace meridax {
 
@@ -28,17 +27,11 @@ QLatin1StringView levelTag(QtMsgType type)
     return "???"_L1;
 }
 
-/// Never destroyed: threads and static destructors may log after main() has returned.
-const QRegularExpression *immortal(const QString &pattern)
-{
-    return std::make_unique<QRegularExpression>(pattern).release();
-}
-
 const QStringList &sensitiveKeys()
 {
-    static const QStringList &keys =
-        *std::make_unique<QStringList>(QStringList{QStringLiteral("emailConfirm")}).release();
-    return keys;
+    static const auto *const keys =
+        immortal<QStringList>(QStringList{QStringLiteral("emailConfirm")});
+    return *keys;
 }
 
 bool holdsSensitiveKey(const QString &text)
@@ -68,13 +61,13 @@ QString LogManager::compose(QtMsgType type, const QMessageLogContext &context,
 
 QString LogManager::sanitize(const QString &text)
 {
-    static const QRegularExpression *const secret =
-        immortal(QStringLiteral(R"re("(%1)"\s*:\s*"[^"]*")re").arg(sensitiveKeys().join(u'|')));
+    static const auto *const secret = immortal<QRegularExpression>(
+        QStringLiteral(R"re("(%1)"\s*:\s*"[^"]*")re").arg(sensitiveKeys().join(u'|')));
     // An address can only begin where a run of its characters begins or the last match has ended.
     // Saying so keeps the search from trying every character of a long run.
-    static const QRegularExpression *const address =
-        immortal(QStringLiteral(R"re((?:\G|(?<![A-Za-z0-9._%+\-])))re"
-                                R"re([A-Za-z0-9._%+\-]+@([A-Za-z0-9.\-]+\.[A-Za-z]{2,}))re"));
+    static const auto *const address = immortal<QRegularExpression>(
+        QStringLiteral(R"re((?:\G|(?<![A-Za-z0-9._%+\-])))re"
+                       R"re([A-Za-z0-9._%+\-]+@([A-Za-z0-9.\-]+\.[A-Za-z]{2,}))re"));
 
     // Hardly a line holds either, and looking for a text costs a tenth of a match.
     QString cleaned = text;

@@ -1,12 +1,9 @@
 #include "server/LegalDocumentCache.h"
 
-#include "server/BoundedText.h"
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -51,7 +48,7 @@ bool LegalDocumentCache::load(LegalDocsRecord &record)
 void LegalDocumentCache::save(const LegalDocsRecord &record)
 {
     QFile file(path());
-    QDir().mkpath(QFileInfo(file).absolutePath());
+    makeDataFolder();
     const QDateTime fetchedAt =
         record.fetchedAt.isValid() ? record.fetchedAt.toUTC() : QDateTime::currentDateTimeUtc();
     const QJsonObject json{{"eulaVersion"_L1, record.eulaVersion},
@@ -59,7 +56,7 @@ void LegalDocumentCache::save(const LegalDocsRecord &record)
                            {"privacyVersion"_L1, record.privacyVersion},
                            {"privacyMarkdown"_L1, record.privacyMarkdown},
                            {"fetchedAt"_L1, fetchedAt.toString(Qt::ISODate)}};
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    if (!openForOwner(file, QIODevice::WriteOnly | QIODevice::Truncate)) {
         qWarning() << "[LegalDocumentCache] kann legal-docs.json nicht schreiben:"
                    << file.errorString();
         return;

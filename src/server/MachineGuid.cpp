@@ -1,9 +1,8 @@
 #include "server/MachineGuid.h"
 
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QSaveFile>
 #include <QUuid>
 
@@ -33,7 +32,7 @@ QString machineGuid()
         return guid;
 
     guid = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    QDir().mkpath(QFileInfo(path).absolutePath());
+    makeDataFolder();
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
         // Before anything is in it.

@@ -1,6 +1,6 @@
 #include "server/ServerConfig.h"
 
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 
 #include <QDebug>
 #include <QFile>

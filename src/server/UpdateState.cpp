@@ -1,6 +1,6 @@
 #include "server/UpdateState.h"
 
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 
 #include <QSettings>
 

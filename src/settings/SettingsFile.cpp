@@ -1,19 +1,16 @@
 #include "settings/SettingsFile.h"
 
+#include "diagnostics/DataFolder.h"
 #include "settings/SettingsJson.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
-#include <QStandardPaths>
 
 namespace meridax {
 
 QString settingsFilePath()
 {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    return folder.filePath(QStringLiteral("appsettings.json"));
+    return dataFilePath(QLatin1StringView("appsettings.json"));
 }
 
 AppSettings loadSettings()
@@ -29,9 +26,7 @@ AppSettings loadSettings()
 bool saveSettings(const AppSettings &settings)
 {
     QFile file(settingsFilePath());
-    if (!QDir().mkpath(QFileInfo(file).absolutePath()))
-        return false;
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (!makeDataFolder() || !openForOwner(file, QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
     const QByteArray text = QJsonDocument(toJson(settings)).toJson(QJsonDocument::Indented);
     // A full disk shows in the write when the text is longer than the buffer, otherwise in closing,

@@ -36,6 +36,14 @@ QQmlEngine *qmlEngine()
     return currentEngine;
 }
 
+bool installLanguage(const QString &language, QTranslator &translator)
+{
+    translateQtTexts(language);
+    const bool needsCatalogue = language != QLatin1StringView("de");
+    return needsCatalogue && translator.load(QStringLiteral(":/i18n/%1.qm").arg(language)) &&
+           QCoreApplication::installTranslator(&translator);
+}
+
 void switchLanguage(const QString &language, QTranslator &translator)
 {
     if (currentStartupTranslator) {
@@ -43,12 +51,7 @@ void switchLanguage(const QString &language, QTranslator &translator)
         currentStartupTranslator = nullptr;
     }
     QCoreApplication::removeTranslator(&translator);
-
-    const bool needsCatalogue = language != QLatin1StringView("de");
-    if (needsCatalogue && translator.load(QStringLiteral(":/i18n/%1.qm").arg(language)))
-        QCoreApplication::installTranslator(&translator);
-    translateQtTexts(language);
-
+    installLanguage(language, translator);
     if (currentEngine)
         currentEngine->retranslate();
 }

@@ -17,10 +17,12 @@ QTranslator *startupTranslator();
 void setQmlEngine(QQmlEngine *engine);
 QQmlEngine *qmlEngine();
 
-/// Installs the catalogue ":/i18n/<language>.qm" in `translator` in place of the one in force and
-/// has the engine translate its texts anew. "de" is the language of the sources and needs no
-/// catalogue; one that cannot be loaded leaves the German texts, without a message. Qt's own texts
-/// follow.
+/// Installs the catalogue ":/i18n/<language>.qm" in `translator`; true if there is one now. "de" is
+/// the language of the sources and needs none; one that cannot be loaded leaves the German texts,
+/// without a message. Qt's own texts follow, also in German, since Qt's are English.
+bool installLanguage(const QString &language, QTranslator &translator);
+
+/// The same in place of the catalogue in force. The engine translates its texts anew.
 void switchLanguage(const QString &language, QTranslator &translator);
 
 } // namespace meridax

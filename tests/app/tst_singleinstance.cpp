@@ -110,14 +110,39 @@ private slots:
         report.remove();
     }
 
-    void withoutADataFolderItEndsQuietly()
+    void withoutADataFolderItSaysSo()
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_DATA_HOME"), QStringLiteral("/dev/null/nowhere"));
         Instance program(environment);
         QVERIFY(program.process().waitForFinished());
         QCOMPARE(program.process().exitStatus(), QProcess::NormalExit);
-        QCOMPARE(program.process().exitCode(), 0);
+        QCOMPARE(program.process().exitCode(), 1);
+        const QString words = QString::fromUtf8(program.process().readAll());
+        QVERIFY2(
+            words.contains(QStringLiteral("im Ordner /dev/null/nowhere/Tarnwick Optics/Meridax "
+                                          "lässt sich keine Datei anlegen")),
+            qPrintable(words));
+    }
+
+    // As where a distribution's qtlogging.ini has it for every program.
+    void debugLinesAreLoggedWhateverTheSystemSays()
+    {
+        const QString config =
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+        QVERIFY(QDir().mkpath(config + QStringLiteral("/QtProject")));
+        QFile rules(config + QStringLiteral("/QtProject/qtlogging.ini"));
+        QVERIFY(rules.open(QIODevice::WriteOnly));
+        rules.write("[Rules]\n*.debug=false\n");
+        rules.close();
+        QFile log(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                  QStringLiteral("/Tarnwick Optics/Meridax/logs/meridax.log"));
+        log.remove();
+        Instance program;
+        QVERIFY(program.isListening());
+        rules.remove();
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QVERIFY(log.readAll().contains("[DBG] [ServerConfig]"));
     }
 
     void damagedSettingsDoNotKeepItFromRunning_data()

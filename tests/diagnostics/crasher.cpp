@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QLoggingCategory>
 
 #include <sys/mman.h>
 #include <sys/resource.h>
@@ -139,6 +140,14 @@ void whileLoggerIsStuck()
     writeToNowhere();
 }
 
+/// As of a library that complains of every frame.
+void flood()
+{
+    static const QLoggingCategory library("qt.library");
+    for (int i = 0; i < 1000; ++i)
+        qCWarning(library, "frame %d is damaged", i);
+}
+
 const std::map<std::string, Action> kWays = {
     {"null-write", writeToNowhere},
     {"jump", jumpToNowhere},
@@ -179,6 +188,12 @@ const std::map<std::string, Action> kWays = {
          onSync = hang;
          writeToNowhere();
      }},
+    {"flood",
+     [] {
+         flood();
+         writeToNowhere();
+     }},
+    {"end-in-flood", flood},
     {"wait",
      [] {
          std::puts("ready");

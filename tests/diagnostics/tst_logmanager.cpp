@@ -1,8 +1,12 @@
+#include "diagnostics/DataFolder.h"
+#include "diagnostics/LogFlood.h"
 #include "diagnostics/LogManager.h"
+#include "diagnostics/PersonalPaths.h"
 #include "diagnostics/Utf8Stream.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -15,9 +19,9 @@ namespace {
 
 QStringList console; ///< what reached the handler that was there before
 
-void recordConsole(QtMsgType, const QMessageLogContext &, const QString &message)
+void recordConsole(QtMsgType, const QMessageLogContext &context, const QString &message)
 {
-    if (!message.startsWith(QLatin1StringView("[thread")))
+    if (!message.startsWith(QLatin1StringView("[thread")) && !LogFlood::mayRepeat(context.category))
         console << message;
 }
 
@@ -48,6 +52,25 @@ QString newest()
 void append(std::intptr_t target, const char *utf8, std::size_t size)
 {
     reinterpret_cast<QByteArray *>(target)->append(utf8, static_cast<qsizetype>(size));
+}
+
+bool isForTheOwnerOnly(const QString &path)
+{
+    return !(QFile::permissions(path) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                         QFile::ReadOther | QFile::WriteOther | QFile::ExeOther));
+}
+
+/// How often `message` was written, by the lines that hold it and by those that count it.
+qint64 occurrences(const QString &log, const QString &message)
+{
+    static const QRegularExpression counted(QStringLiteral("\\] \\[LogManager\\] (\\d+)-mal "));
+    qint64 sum = 0;
+    const QStringList lines = log.split(u'\n').filter(message);
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch match = counted.match(line);
+        sum += match.hasMatch() ? match.captured(1).toLongLong() : 1;
+    }
+    return sum;
 }
 
 /// The tail as the crash handler gets it.
@@ -95,6 +118,8 @@ private slots:
         QVERIFY(writeFile(LogManager::logFilePath(), old));
         QVERIFY(writeFile(backup(3), "oldest"));
         QVERIFY(writeFile(backup(2), "middle"));
+        for (const QString &path : {dataFolder(), LogManager::logFilePath()})
+            QVERIFY(QFile::setPermissions(path, QFile::Permissions(0x7777)));
         qInstallMessageHandler(recordConsole);
         LogManager::install();
         QVERIFY(contentOf(backup(1)).startsWith(old + QByteArray("20")));
@@ -105,6 +130,8 @@ private slots:
         QCOMPARE(newest(), QStringLiteral("[LogManager] Logging gestartet — Datei: %1  Ringbuffer: "
                                           "500 Zeilen")
                                .arg(LogManager::logFilePath()));
+        for (const QString &path : {dataFolder(), LogManager::logFilePath(), backup(1)})
+            QVERIFY2(isForTheOwnerOnly(path), qPrintable(path));
         LogManager::install(); // a second time: neither a banner nor a handler that calls itself
         QCOMPARE(console.size(), 1);
         QCOMPARE(LogManager::tail(0).count(u'\n'), 0);
@@ -174,6 +201,39 @@ private slots:
         QCOMPARE(console.last(), text); // the console is the user's own
     }
 
+    void whatLeavesTheComputerNamesNoUser_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("cleaned");
+        const auto row = [](const char *text, const char *cleaned) {
+            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(cleaned);
+        };
+        row("/home/max", "~");
+        row("Datei: /home/max/a b.png, \"/home/max\".", "Datei: ~/a b.png, \"~\".");
+        row("file:///home/max/x", "file://~/x");
+        row("/data/homes/jörg müller/x", "~/x");
+        row("file:///data/homes/j%C3%B6rg%20m%C3%BCller/x", "file://~/x");
+        row("C:/Users/Max/x C:\\Users\\Max\\x \"c:\\\\users\\\\max\\\\x\"", "~/x ~\\x \"~\\\\x\"");
+        row("/media/max/STICK /run/user/MAX.", "/media/<user>/STICK /run/user/<user>.");
+        row("/mnt/home/max/x", "/mnt/home/<user>/x");
+        row("/home/maximilian /home/max-2 /home/max.old /home/max_", "/home/maximilian "
+                                                                     "/home/max-2 /home/max.old "
+                                                                     "/home/max_");
+        row("max. 30 Bilder, Kamera \"max\"", "max. 30 Bilder, Kamera \"max\"");
+        row("[camera] /dev/video0 (x.cpp:7)", "[camera] /dev/video0 (x.cpp:7)");
+    }
+
+    void whatLeavesTheComputerNamesNoUser()
+    {
+        QFETCH(QString, text);
+        const PersonalPaths paths{{QStringLiteral("/home/max"),
+                                   QStringLiteral("/data/homes/jörg müller"),
+                                   QStringLiteral("C:/Users/Max"), QStringLiteral("/"), QString()},
+                                  {QStringLiteral("max"), QString()}};
+        QTEST(withoutPersonalPaths(text, paths), "cleaned");
+        QCOMPARE(withoutPersonalPaths(text, {{QStringLiteral("/"), QString()}, {QString()}}), text);
+    }
+
     void longTextsAreCleanedInLinearTime()
     {
         // 2 MB of characters that an address may have: trying each of them would take hours.
@@ -214,6 +274,110 @@ private slots:
         qInfo().noquote() << text << QString(1000, u'日');
         for (const int lines : {1, 50, 0})
             QCOMPARE(crashTail(lines), LogManager::tail(lines).toUtf8());
+    }
+
+    void messagesOfOneKind_data()
+    {
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("same");
+        const auto row = [](const char *message, bool same) {
+            QTest::newRow(message) << QString::fromLatin1(message) << same;
+        };
+        row("Corrupt JPEG data: 13 extraneous bytes before marker 0xd9", true);
+        row("Corrupt JPEG data: 4 extraneous bytes before marker 0xDA", true);
+        row("Corrupt JPEG data: 4 extraneous bytes before marker 0x", true);
+        row("Corrupt JPEG data: 4 extraneous bytes before marker d9", false);
+        row("Corrupt JPEG data:  extraneous bytes before marker 0xd9", false);
+        row("Corrupt JPEG data: 13 extraneous bytes before marker 0xd9.", false);
+        row("Corrupt JPEG data: 13 extraneous bytes before marker ", false);
+        row("Corrupt JPEG data: 13 extraneous bits before marker 0xd9", false);
+        row("", false);
+    }
+
+    void messagesOfOneKind()
+    {
+        QFETCH(bool, same);
+        const QString known =
+            QStringLiteral("Corrupt JPEG data: 2 extraneous bytes before marker 0xd9");
+        const QString other = QString::fromLatin1(QTest::currentDataTag());
+        QCOMPARE(differInNumbersOnly(known, other), same);
+        QCOMPARE(differInNumbersOnly(other, known), same);
+    }
+
+    void aFloodIsToldInGrowingPauses()
+    {
+        using namespace std::chrono_literals;
+        LogFlood flood;
+        const LogFlood::Clock::time_point start(1000s);
+        const auto count = [&](const char *text, std::chrono::seconds time) {
+            return flood.count(QtWarningMsg, "jpeg", QString::fromLatin1(text), start + time);
+        };
+        const auto watch = [&](const char *text, std::chrono::seconds time) {
+            const QString message = QString::fromLatin1(text);
+            return flood.watch(QtWarningMsg, "jpeg", message, message, start + time);
+        };
+        QVERIFY(!count("a", 0s));
+        QVERIFY(watch("a", 0s).empty());
+        std::vector<qint64> told;
+        for (std::chrono::seconds time = 1s; time < 2000s; ++time) {
+            for (const LogFlood::Kind &kind : flood.takeDue(start + time))
+                told.push_back(time.count() * 1'000'000 + kind.untold);
+            QVERIFY(count("a", time));
+        }
+        QCOMPARE(told, (std::vector<qint64>{10'000'009, 70'000'060, 430'000'360, 1030'000'600,
+                                            1630'000'600}));
+        QVERIFY2(!flood.count(QtDebugMsg, "jpeg", u"a", start), "another level");
+        QVERIFY2(!flood.count(QtWarningMsg, "png", u"a", start), "another library");
+        QVERIFY(flood.takeDue(start + 2058s).empty());
+        QCOMPARE(flood.takeDue(start + 2059s).at(0).untold, 370); // it has stopped
+        QVERIFY(!count("a", 2059s));
+
+        // The ninth kind takes the place of the one that is silent for longest.
+        for (const char *text : {"a", "b", "c", "d", "e", "f", "g", "h"})
+            QVERIFY(watch(text, 3000s).empty() && count(text, 3001s));
+        QVERIFY(count("a", 3002s));
+        QCOMPARE(watch("i", 3003s).at(0).message, "b");
+        QVERIFY(!count("b", 3004s) && count("a", 3004s));
+        QCOMPARE(flood.takeAll().size(), 7U);
+        QVERIFY(flood.takeAll().empty() && !count("a", 3005s));
+    }
+
+    void floodsLeaveTheRestOfTheLog()
+    {
+        static const QLoggingCategory jpeg("qt.gui.imageio.jpeg");
+        static const QLoggingCategory video("qt.multimedia.video");
+        constexpr int kThreads = 4;
+        constexpr int kRounds = 40'000;
+        std::vector<std::thread> threads;
+        for (int thread = 0; thread < kThreads; ++thread) {
+            threads.emplace_back([thread] {
+                for (int i = 0; i < kRounds; ++i) {
+                    qCWarning(jpeg, "Corrupt JPEG data: %d extraneous bytes by a@b.de", i % 30);
+                    qCWarning(video, "Packet lost");
+                    if (i % 1000 == 0)
+                        qInfo("[thread %d] the same own line", thread);
+                }
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        const QString crash = QString::fromUtf8(crashTail(50));
+        QCOMPARE(crash.count(u'\n'), 49);
+        QVERIFY2(crash.section(u'\n', -2).contains(QRegularExpression(
+                     QStringLiteral(
+                         "^[-0-9]{10} [:0-9.]{12} \\[WRN\\] \\[LogManager\\] \\d+-mal wiederholt: "
+                         "Corrupt JPEG data: \\d+ extraneous bytes by <user>@b.de$"),
+                     QRegularExpression::MultilineOption)),
+                 qPrintable(crash));
+        // Here a thread that was the first as well logs a line more, and tells are rare: all of it
+        // fits in between the own lines.
+        for (const QString &log :
+             {QString::fromUtf8(crashTail(0)), LogManager::tail(0), LogManager::tailFromFiles(0)}) {
+            QCOMPARE(occurrences(log, QStringLiteral("Corrupt JPEG data")), kThreads * kRounds);
+            QCOMPARE(occurrences(log, QStringLiteral("Packet lost")), kThreads * kRounds);
+            QVERIFY(log.count(QStringLiteral("Packet lost")) < 2 * kThreads);
+            QCOMPARE(log.count(QStringLiteral("the same own line")), kThreads * kRounds / 1000);
+        }
     }
 
     void atMostFourFilesExist()

@@ -1,6 +1,6 @@
 #include "server/BoundedText.h"
 #include "server/CrashSubmission.h"
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 #include "server/LegalDocumentCache.h"
 #include "server/MachineGuid.h"
 #include "server/ServerConfig.h"

@@ -1,5 +1,5 @@
 #include "server/BoundedText.h"
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 #include "server/LegalDocumentCache.h"
 #include "server/MachineGuid.h"
 #include "server/ServerConfig.h"

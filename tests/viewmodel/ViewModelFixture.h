@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CachedLegalTexts.h"
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 #include "settings/SettingsFile.h"
 #include "viewmodel/CameraViewModel.h"
 

@@ -1,7 +1,7 @@
 #include "ViewModelFixture.h"
 
 #include "MessageRecorder.h"
-#include "server/DataFile.h"
+#include "diagnostics/DataFolder.h"
 #include "server/SupportServerTool.h"
 
 #include <QDesktopServices>
