@@ -44,6 +44,7 @@ qt_add_qml_module(meridax_module
         src/measurement/CameraController_calibration.cpp
         src/measurement/CameraController_focus.cpp
         src/measurement/FocusSession.h
+        src/viewmodel/BoundedText.cpp src/viewmodel/BoundedText.h
         src/viewmodel/CameraList.cpp src/viewmodel/CameraList.h
         src/viewmodel/CameraViewModel.cpp src/viewmodel/CameraViewModel.h
         src/viewmodel/CameraViewModel_calibration.cpp
@@ -63,6 +64,7 @@ qt_add_qml_module(meridax_module
         src/viewmodel/LanguageSwitch.cpp src/viewmodel/LanguageSwitch.h
         src/viewmodel/QtTexts.cpp src/viewmodel/QtTexts.h
         src/viewmodel/ScreenshotFile.cpp src/viewmodel/ScreenshotFile.h
+        src/viewmodel/WebLink.cpp src/viewmodel/WebLink.h
 )
 target_include_directories(meridax_module PUBLIC ${PROJECT_SOURCE_DIR}/src
     # The generated type registration includes headers by their bare names.

@@ -647,8 +647,12 @@
         <translation>• Program version and build information</translation>
     </message>
     <message>
-        <source>Persönliche Daten werden vorher herausgefiltert.</source>
-        <translation>Personal data is filtered out first.</translation>
+        <source>E-Mail-Adressen und dein Benutzername in Dateipfaden werden vorher unkenntlich gemacht. Namen und Kennungen deiner Kameras bleiben lesbar.</source>
+        <translation>E-mail addresses and your user name in file paths are made unrecognisable first. Names and identifiers of your cameras stay readable.</translation>
+    </message>
+    <message>
+        <source>Der Bericht ist leer oder lässt sich nicht lesen. Du kannst ihn verwerfen oder mit eigenen Worten beschreiben, was geschehen ist.</source>
+        <translation>The report is empty or cannot be read. You can discard it, or describe in your own words what happened.</translation>
     </message>
 </context>
 <context>

@@ -647,8 +647,12 @@
         <translation>• La versión de la aplicación y los datos de compilación</translation>
     </message>
     <message>
-        <source>Persönliche Daten werden vorher herausgefiltert.</source>
-        <translation>Los datos personales se eliminan antes del envío.</translation>
+        <source>E-Mail-Adressen und dein Benutzername in Dateipfaden werden vorher unkenntlich gemacht. Namen und Kennungen deiner Kameras bleiben lesbar.</source>
+        <translation>Antes del envío se ocultan las direcciones de correo y tu nombre de usuario en las rutas de archivos. Los nombres e identificadores de tus cámaras siguen siendo legibles.</translation>
+    </message>
+    <message>
+        <source>Der Bericht ist leer oder lässt sich nicht lesen. Du kannst ihn verwerfen oder mit eigenen Worten beschreiben, was geschehen ist.</source>
+        <translation>El informe está vacío o no se puede leer. Puedes descartarlo o describir con tus propias palabras lo que ha pasado.</translation>
     </message>
 </context>
 <context>

@@ -647,8 +647,12 @@
         <translation>• la version de l’application et les informations de build</translation>
     </message>
     <message>
-        <source>Persönliche Daten werden vorher herausgefiltert.</source>
-        <translation>Les données personnelles sont filtrées au préalable.</translation>
+        <source>E-Mail-Adressen und dein Benutzername in Dateipfaden werden vorher unkenntlich gemacht. Namen und Kennungen deiner Kameras bleiben lesbar.</source>
+        <translation>Les adresses e-mail et votre nom d’utilisateur dans les chemins de fichiers sont masqués au préalable. Les noms et identifiants de vos caméras restent lisibles.</translation>
+    </message>
+    <message>
+        <source>Der Bericht ist leer oder lässt sich nicht lesen. Du kannst ihn verwerfen oder mit eigenen Worten beschreiben, was geschehen ist.</source>
+        <translation>Le rapport est vide ou illisible. Vous pouvez l’ignorer ou décrire avec vos propres mots ce qui s’est passé.</translation>
     </message>
 </context>
 <context>

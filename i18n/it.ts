@@ -647,8 +647,12 @@
         <translation>• Versione dell’app e dati della build</translation>
     </message>
     <message>
-        <source>Persönliche Daten werden vorher herausgefiltert.</source>
-        <translation>I dati personali vengono prima eliminati.</translation>
+        <source>E-Mail-Adressen und dein Benutzername in Dateipfaden werden vorher unkenntlich gemacht. Namen und Kennungen deiner Kameras bleiben lesbar.</source>
+        <translation>Gli indirizzi e-mail e il tuo nome utente nei percorsi dei file vengono prima resi irriconoscibili. I nomi e gli identificativi delle tue camere restano leggibili.</translation>
+    </message>
+    <message>
+        <source>Der Bericht ist leer oder lässt sich nicht lesen. Du kannst ihn verwerfen oder mit eigenen Worten beschreiben, was geschehen ist.</source>
+        <translation>Il rapporto è vuoto o illeggibile. Puoi scartarlo oppure descrivere con parole tue che cosa è successo.</translation>
     </message>
 </context>
 <context>

@@ -66,6 +66,8 @@ SupportDialog {
               && !_descriptionTooShort && description.length <= descMaxLen
               && selectedCategory !== ""
 
+    touched: titleField.length > 0 || description.length > 0 || screenshotBase64 !== ""
+
     onReportKindChanged: selectedCategory = ""
     onAboutToShow: {
         titleField.clear();
@@ -173,5 +175,6 @@ SupportDialog {
 
         objectName: "logOption"
         visible: !root._feature
+        enabled: root.editable
     }
 }

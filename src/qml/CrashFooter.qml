@@ -7,6 +7,9 @@ import Meridax
 Pane {
     id: root
 
+    /// There is something to send.
+    required property bool sendable
+
     signal discarded()
     signal described()
     signal sent()
@@ -51,6 +54,7 @@ Pane {
             objectName: "sendCrashButton"
             text: qsTr("Senden")
             implicitHeight: 36
+            enabled: root.sendable
             Material.background: "#FFA726"
             onClicked: root.sent()
         }

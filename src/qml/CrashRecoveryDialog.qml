@@ -10,6 +10,9 @@ CenteredDialog {
     /// It steps aside, such as for the bug dialog it handed over to.
     property bool suppressed: false
 
+    // A full disk leaves an empty file behind.
+    readonly property bool _readable: visible && ViewModel.lastCrashReport !== ""
+
     /// The user wants to add a description.
     signal openBugReportWithCrashDetails()
 
@@ -17,7 +20,7 @@ CenteredDialog {
     height: Math.min(implicitHeight, (parent?.height ?? 0) - 32)
     closePolicy: Popup.NoAutoClose
     visible: ViewModel.hasUnsentCrash && !ViewModel.bugReportPending
-             && !ViewModel.bugReportSuccess && !suppressed
+             && !ViewModel.bugReportSuccess && !ViewModel.bugReportUnderWay && !suppressed
     title: qsTr("Meridax ist beim letzten Mal abgestürzt")
     borderColor: "#FFA726"
     borderWidth: 2
@@ -91,8 +94,14 @@ CenteredDialog {
             }
 
             CrashNote {
-                text: qsTr("Persönliche Daten werden vorher herausgefiltert.")
+                text: qsTr("E-Mail-Adressen und dein Benutzername in Dateipfaden werden vorher unkenntlich gemacht. Namen und Kennungen deiner Kameras bleiben lesbar.")
                 color: Theme.textMuted
+            }
+
+            CrashNote {
+                objectName: "crashUnreadableNote"
+                visible: !root._readable
+                text: qsTr("Der Bericht ist leer oder lässt sich nicht lesen. Du kannst ihn verwerfen oder mit eigenen Worten beschreiben, was geschehen ist.")
             }
 
             CrashDetails {
@@ -105,6 +114,7 @@ CenteredDialog {
         }
     }
     footer: CrashFooter {
+        sendable: root._readable
         onDiscarded: ViewModel.dismissCrashReport()
         onDescribed: root.openBugReportWithCrashDetails()
         onSent: ViewModel.sendCrashReport("")

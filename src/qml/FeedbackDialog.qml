@@ -26,6 +26,7 @@ SupportDialog {
     successText: qsTr("Vielen Dank für dein Feedback!")
     closeDelay: 1800
     complete: rating > 0 && comment.length <= commentMaxLen
+    touched: comment.length > 0
 
     onAboutToShow: {
         rating = 0;

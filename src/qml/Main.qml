@@ -169,8 +169,8 @@ ApplicationWindow {
         objectName: "crashRecoveryDialog"
         z: 30
         // Otherwise it would lie over the dialog it hands over to, and a cancel there would not
-        // bring it back.
-        suppressed: bugReportDialog.visible
+        // bring it back; or over a form when sending the report has failed.
+        suppressed: bugReportDialog.visible || feedbackDialog.visible
         onOpenBugReportWithCrashDetails: {
             root.report("bug");
             bugReportDialog.prefillFromCrash();

@@ -6,15 +6,17 @@ import Meridax
 ColumnLayout {
     id: root
 
+    required property bool succeeded
     required property string successText
+    required property string error
 
     spacing: 4
-    visible: ViewModel.bugReportSuccess || ViewModel.bugReportError !== ""
+    visible: succeeded || error !== ""
     Layout.fillWidth: true
 
     LiveLabel {
         objectName: "successLabel"
-        visible: ViewModel.bugReportSuccess
+        visible: root.succeeded
         text: root.successText
         font.pixelSize: 13
         color: Theme.textGood
@@ -26,7 +28,7 @@ ColumnLayout {
         objectName: "errorLabel"
         urgent: true
         visible: text !== ""
-        text: ViewModel.bugReportError
+        text: root.error
         textFormat: Text.PlainText
         font.pixelSize: 13
         color: "#F44336"

@@ -15,33 +15,37 @@ CenteredDialog {
     required property bool complete
     /// Milliseconds from success until the dialog closes by itself.
     required property int closeDelay
+    /// Something was typed or chosen that a stray click must not throw away.
+    required property bool touched
     /// The form may be changed.
-    readonly property bool editable: !ViewModel.bugReportPending && !ViewModel.bugReportSuccess
+    readonly property bool editable: !_pending && !_succeeded
+
+    // The state of the sending is one for all: only that of what was sent from here counts here.
+    property bool _sent: false
+    readonly property bool _pending: _sent && ViewModel.bugReportPending
+    readonly property bool _succeeded: _sent && ViewModel.bugReportSuccess
     default property alias form: column.data
 
     /// The form is to be sent.
     signal submitted()
 
     height: Math.min(implicitHeight, (parent?.height ?? 0) - 32)
-    closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    closePolicy: touched && !_succeeded ? Popup.CloseOnEscape
+                                        : Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
+    on_SucceededChanged: {
+        if (_succeeded)
+            closing.start();
+    }
     onAboutToShow: {
         closing.stop();
+        _sent = false;
         view.contentY = 0;
         ViewModel.clearBugReportState();
     }
     onClosed: {
         closing.stop();
         ViewModel.clearBugReportState();
-    }
-
-    Connections {
-        target: ViewModel
-
-        function onBugReportStateChanged() {
-            if (root.visible && ViewModel.bugReportSuccess)
-                closing.start();
-        }
     }
 
     Timer {
@@ -81,7 +85,9 @@ CenteredDialog {
         spacing: 0
 
         SubmissionStatus {
+            succeeded: root._succeeded
             successText: root.successText
+            error: root._sent ? ViewModel.bugReportError : ""
             Layout.leftMargin: 20
             Layout.rightMargin: 20
             Layout.topMargin: 8
@@ -90,12 +96,15 @@ CenteredDialog {
 
         SubmissionFooter {
             accent: root.accent
-            pending: ViewModel.bugReportPending
-            succeeded: ViewModel.bugReportSuccess
+            pending: root._pending
+            succeeded: root._succeeded
             sendEnabled: root.complete && !ViewModel.bugReportPending
             Layout.fillWidth: true
             onCancelled: root.close()
-            onSent: root.submitted()
+            onSent: {
+                root._sent = true;
+                root.submitted();
+            }
         }
     }
 }

@@ -1,8 +1,10 @@
 #include "server/SupportApiClient.h"
 
 #include "BuildInfo.h"
+#include "server/SupportWire.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSysInfo>
@@ -31,6 +33,8 @@ QNetworkRequest requestTo(const QString &address)
 {
     QNetworkRequest request{QUrl(address)};
     request.setRawHeader("User-Agent"_ba, userAgent());
+    // Otherwise Qt tells the languages of the system.
+    request.setRawHeader("Accept-Language"_ba, "*"_ba);
     request.setTransferTimeout(kTransferTimeout);
     return request;
 }
@@ -98,31 +102,33 @@ void SupportApiClient::fetchLegalDocument(const QString &kind, const QString &fu
     });
 }
 
-void SupportApiClient::submitBugReport(const BugReportRequest &request)
+int SupportApiClient::submitBugReport(const BugReportRequest &request)
 {
-    submit(Submission::BugReport, u"/api/license/report-bug"_s, toJson(request),
-           &SupportApiClient::bugReportFinished);
+    return submit(Submission::BugReport, u"/api/license/report-bug"_s, toJson(request),
+                  &SupportApiClient::bugReportFinished);
 }
 
-void SupportApiClient::submitFeatureRequest(const FeatureRequestRequest &request)
+int SupportApiClient::submitFeatureRequest(const FeatureRequestRequest &request)
 {
-    submit(Submission::FeatureRequest, u"/api/license/feature-request"_s, toJson(request),
-           &SupportApiClient::featureRequestFinished);
+    return submit(Submission::FeatureRequest, u"/api/license/feature-request"_s, toJson(request),
+                  &SupportApiClient::featureRequestFinished);
 }
 
-void SupportApiClient::submitFeedback(const FeedbackRequest &request)
+int SupportApiClient::submitFeedback(const FeedbackRequest &request)
 {
-    submit(Submission::Feedback, u"/api/license/feedback"_s, toJson(request),
-           &SupportApiClient::feedbackFinished);
+    return submit(Submission::Feedback, u"/api/license/feedback"_s, toJson(request),
+                  &SupportApiClient::feedbackFinished);
 }
 
-void SupportApiClient::submit(Submission kind, const QString &path, const QJsonObject &body,
-                              SubmissionFinished finished)
+int SupportApiClient::submit(Submission kind, const QString &path, const QJsonObject &body,
+                             SubmissionFinished finished)
 {
-    post(path, body, [this, kind, finished](const HttpReply &reply) {
+    const int number = ++m_lastNumber;
+    post(path, body, [this, kind, finished, number](const HttpReply &reply) {
         const SubmissionReply result = readSubmissionReply(kind, reply);
-        emit(this->*finished)(result.success, result.id, result.message, result.errorCode);
+        emit(this->*finished)(result.success, result.id, result.message, result.errorCode, number);
     });
+    return number;
 }
 
 void SupportApiClient::post(const QString &path, const QJsonObject &body, const Handler &handler)

@@ -14,7 +14,7 @@ struct UpdateRelease
     QString downloadUrl;
     qint64 fileSize = 0; ///< bytes
     QString sha256;
-    QString releaseNotes; ///< Markdown, bounded in length
+    QString releaseNotes; ///< Markdown
     QString releasedAt;
     bool valid = false; ///< has a version and an address
 
@@ -48,7 +48,7 @@ struct LegalDocument
 {
     QString kind; ///< "eula" or "privacy"
     QString version;
-    QString contentMarkdown; ///< bounded in length
+    QString contentMarkdown;
     QString changeSummary;
     QString effectiveFrom;
     bool valid = false; ///< has a text

@@ -1,7 +1,5 @@
 #include "server/SupportWire.h"
 
-#include "server/BoundedText.h"
-
 #include <QDebug>
 #include <QJsonDocument>
 
@@ -57,7 +55,7 @@ UpdateRelease releaseFromJson(const QJsonObject &json)
     release.downloadUrl = json.value("downloadUrl"_L1).toString();
     release.fileSize = byteCount(json.value("fileSize"_L1));
     release.sha256 = json.value("sha256"_L1).toString();
-    release.releaseNotes = boundedText(json.value("releaseNotes"_L1).toString());
+    release.releaseNotes = json.value("releaseNotes"_L1).toString();
     release.releasedAt = json.value("releasedAt"_L1).toString();
     release.valid = !json.isEmpty() && !release.version.isEmpty() && !release.downloadUrl.isEmpty();
     return release;
@@ -100,12 +98,25 @@ QString codeOfStatus(const SubmissionRules &rules, int status)
     }
 }
 
-/// As it is, without quotation marks, so that the log's own cleaning finds the members it looks
-/// for.
+/// The beginning, without quotation marks, so that the log's own cleaning finds the members it
+/// looks for. On one line and without control characters: whoever answers must not write lines of
+/// the log or command a terminal. White space stays that, since JSON may have it around its colons.
 QString loggedBody(const HttpReply &reply)
 {
     constexpr qsizetype limit = 65536;
-    return QString::fromUtf8(reply.body.first(qMin(reply.body.size(), limit)));
+    const QString body = QString::fromUtf8(reply.body.first(qMin(reply.body.size(), limit)));
+    QString logged;
+    logged.reserve(body.size());
+    for (const QChar c : body) {
+        if (c == u'\n' || c == u'\r' || c == u'\t')
+            logged += u' ';
+        else if (c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
+                 c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
+            logged += u"\\u%1"_s.arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            logged += c;
+    }
+    return logged;
 }
 
 } // namespace

@@ -39,7 +39,7 @@ struct SubmissionReply
     bool success = false;
     QString id;
     QString message;   ///< the server's, or the network's without a reply
-    QString errorCode; ///< empty on success and without a reply
+    QString errorCode; ///< empty without a reply; says nothing on success
 };
 
 /// Only "success" in the body decides; the status fills in the code of a failure that has none.

@@ -97,8 +97,7 @@ void CameraViewModel::connectServer()
 void CameraViewModel::contactServer()
 {
     checkForUpdates();
-    if (!legalDocsReady())
-        fetchLegalDocuments();
+    renewLegalDocuments();
 }
 
 void CameraViewModel::onStatus(const QString &status)

@@ -14,6 +14,7 @@
 #include <QMediaDevices>
 #include <QObject>
 #include <QPointF>
+#include <QSet>
 #include <QSize>
 #include <QStringList>
 #include <QTimer>
@@ -22,6 +23,7 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
 #include <type_traits>
 
 class QJSEngine;
@@ -263,6 +265,9 @@ class CameraViewModel : public QObject
     // Support: one state for bug reports, feature requests and feedback
     Q_PROPERTY(bool bugReportPending READ bugReportPending NOTIFY bugReportStateChanged)
     Q_PROPERTY(bool bugReportSuccess READ bugReportSuccess NOTIFY bugReportStateChanged)
+    /// A bug report has been sent and is not answered yet, also of a form that is closed. Its
+    /// success would end the offer to send the report of a crash.
+    Q_PROPERTY(bool bugReportUnderWay READ bugReportUnderWay NOTIFY bugReportStateChanged)
     Q_PROPERTY(QString bugReportError READ bugReportError NOTIFY bugReportStateChanged)
     Q_PROPERTY(QString bugReportMessage READ bugReportMessage NOTIFY bugReportStateChanged)
 
@@ -397,7 +402,7 @@ public:
     QString updateVersion() const { return m_updateInfo.latest.version; }
     QString updateChannel() const { return m_updateInfo.latest.channel; }
     QString updateDownloadUrl() const { return m_updateInfo.latest.downloadUrl; }
-    QString updateReleaseNotes() const { return m_updateInfo.latest.releaseNotes; }
+    QString updateReleaseNotes() const;
     QString latestStableVersion() const { return m_updateInfo.latestStable.version; }
     QString latestStableDownloadUrl() const { return m_updateInfo.latestStable.downloadUrl; }
     QString serverApiVersion() const { return m_updateInfo.server.apiVersion; }
@@ -406,6 +411,7 @@ public:
 
     bool bugReportPending() const { return m_bugReportPending; }
     bool bugReportSuccess() const { return m_bugReportSuccess; }
+    bool bugReportUnderWay() const { return !m_bugReportsUnderWay.isEmpty(); }
     QString bugReportError() const { return m_bugReportError; }
     QString bugReportMessage() const { return m_bugReportMessage; }
 
@@ -478,9 +484,11 @@ public slots:
     /// The newest `lines` lines of the log, all that are remembered for `lines` below 1.
     QString getLogTail(int lines = 200) const;
     void copyToClipboard(const QString &text);
-    /// Sends the report of the crash as a bug report, after the user's own words.
+    /// Sends the report of the crash as a bug report, after the user's own words. Does nothing
+    /// while a bug report is under way, which may be the same.
     void sendCrashReport(const QString &additionalDescription = {});
-    /// Drops the report of the crash without sending it.
+    /// Drops the report of the crash without sending it. One that cannot be removed is left alone
+    /// for the rest of the run.
     void dismissCrashReport();
     /// The title under which the report of the crash is sent; empty without one.
     QString crashReportTitle() const;
@@ -637,17 +645,22 @@ private:
                          const QString &category) const;
     void sendBugReport(const ReportRequest &request, bool includeLogs);
     void resetSubmission(bool pending);
-    void beginSubmission(Submission kind);
-    void storeSubmissionResult(Submission kind, bool success, const QString &message,
+    void awaitSubmission(int number);
+    void storeSubmissionResult(int number, bool success, const QString &message,
                                const QString &errorCode);
     void onBugReport(bool success, const QString &bugId, const QString &message,
-                     const QString &errorCode);
+                     const QString &errorCode, int number);
     void onFeatureRequest(bool success, const QString &requestId, const QString &message,
-                          const QString &errorCode);
+                          const QString &errorCode, int number);
     void onFeedback(bool success, const QString &feedbackId, const QString &message,
-                    const QString &errorCode);
+                    const QString &errorCode, int number);
 
     void loadCachedLegalDocuments();
+    void requestLegalDocuments();
+    void renewLegalDocuments();
+    void onRenewedLegalDocument(bool success, const QString &kind, const LegalDocument &document,
+                                const QString &error);
+    void saveLegalDocuments() const;
     void onLegalDocument(bool success, const QString &kind, const LegalDocument &document,
                          const QString &error);
 
@@ -712,14 +725,17 @@ private:
     bool m_updateBannerVisible = false;
     QString m_dismissedVersion;
 
+    int m_awaitedSubmission = 0; // the one of which the state tells; 0 is none
+    QSet<int> m_bugReportsUnderWay;
     bool m_bugReportPending = false;
-    Submission m_awaitedReply = Submission::BugReport;
-    QList<Submission> m_abandonedReplies; // of forms that were closed before the reply came
     bool m_bugReportSuccess = false;
     QString m_bugReportError;
     QString m_bugReportMessage;
 
+    bool m_crashIsDismissed = false;
+
     LegalDocsRecord m_legalDocs;
+    std::optional<LegalDocsRecord> m_renewedLegalDocs; // as far as they have arrived
     bool m_legalDocsLoading = false;
     QString m_legalDocsError;
 };

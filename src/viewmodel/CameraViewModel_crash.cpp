@@ -3,6 +3,7 @@
 #include "viewmodel/CameraViewModel.h"
 
 #include "diagnostics/CrashHandler.h"
+#include "diagnostics/PersonalPaths.h"
 #include "server/CrashSubmission.h"
 
 #include <QDebug>
@@ -11,28 +12,34 @@ namespace meridax {
 
 bool CameraViewModel::hasUnsentCrash() const
 {
-    return CrashHandler::hasCrashFile();
+    return !m_crashIsDismissed && CrashHandler::hasCrashFile();
 }
 
 QString CameraViewModel::lastCrashReport() const
 {
-    return CrashHandler::readCrashFile();
+    return withoutPersonalPaths(CrashHandler::readCrashFile(), PersonalPaths::ofUser());
 }
 
 QString CameraViewModel::crashReportTitle() const
 {
-    const QString crash = lastCrashReport();
-    return crash.isEmpty() ? QString() : crashTitle(crash);
+    return hasUnsentCrash() ? crashTitle(lastCrashReport()) : QString();
 }
 
 void CameraViewModel::dismissCrashReport()
 {
     CrashHandler::removeCrashFile();
+    if (CrashHandler::hasCrashFile()) {
+        qWarning() << "[Crash] crash.txt lässt sich nicht löschen:"
+                   << CrashHandler::crashFilePath();
+        m_crashIsDismissed = true;
+    }
     emit crashStateChanged();
 }
 
 void CameraViewModel::sendCrashReport(const QString &additionalDescription)
 {
+    if (bugReportUnderWay())
+        return;
     const QString crash = lastCrashReport();
     if (crash.isEmpty()) {
         qDebug() << "[Crash] sendCrashReport ohne vorhandene crash.txt — Abbruch";

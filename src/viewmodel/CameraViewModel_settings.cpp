@@ -4,6 +4,7 @@
 #include "viewmodel/CameraViewModel.h"
 
 #include "diagnostics/LogManager.h"
+#include "diagnostics/PersonalPaths.h"
 #include "viewmodel/LanguageSwitch.h"
 
 #include <QClipboard>
@@ -82,7 +83,7 @@ void CameraViewModel::copyToClipboard(const QString &text)
 
 QString CameraViewModel::getLogTail(int lines) const
 {
-    return LogManager::tail(lines);
+    return withoutPersonalPaths(LogManager::tail(lines), PersonalPaths::ofUser());
 }
 
 } // namespace meridax

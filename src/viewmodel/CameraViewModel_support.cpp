@@ -40,17 +40,16 @@ void CameraViewModel::resetSubmission(bool pending)
     emit bugReportStateChanged();
 }
 
-void CameraViewModel::beginSubmission(Submission kind)
+void CameraViewModel::awaitSubmission(int number)
 {
+    m_awaitedSubmission = number;
     resetSubmission(true);
-    m_awaitedReply = kind;
 }
 
 // A reply still to come belongs to a form that is closed: it must not end the next one.
 void CameraViewModel::clearBugReportState()
 {
-    if (m_bugReportPending)
-        m_abandonedReplies.append(m_awaitedReply);
+    m_awaitedSubmission = 0;
     resetSubmission(false);
 }
 
@@ -76,8 +75,9 @@ void CameraViewModel::sendBugReport(const ReportRequest &request, bool includeLo
 {
     // Before the state changes, lest what the interface says of it gets into the excerpt.
     const QString logs = includeLogs ? getLogTail(kReportedLogLines) : QString();
-    beginSubmission(Submission::BugReport);
-    m_supportClient.submitBugReport({request, logs});
+    const int number = m_supportClient.submitBugReport({request, logs});
+    m_bugReportsUnderWay.insert(number);
+    awaitSubmission(number);
 }
 
 void CameraViewModel::submitFeatureRequest(const QString &title, const QString &description,
@@ -86,9 +86,8 @@ void CameraViewModel::submitFeatureRequest(const QString &title, const QString &
 {
     if (m_bugReportPending)
         return;
-    beginSubmission(Submission::FeatureRequest);
-    m_supportClient.submitFeatureRequest(
-        {report(title, description, screenshotBase64, screenshotMime, category)});
+    awaitSubmission(m_supportClient.submitFeatureRequest(
+        {report(title, description, screenshotBase64, screenshotMime, category)}));
 }
 
 void CameraViewModel::submitFeedback(int rating, const QString &comment)
@@ -99,15 +98,15 @@ void CameraViewModel::submitFeedback(int rating, const QString &comment)
         qWarning() << "[Feedback] ungültiges Rating:" << rating;
         return;
     }
-    beginSubmission(Submission::Feedback);
-    m_supportClient.submitFeedback({sender(), rating, comment});
+    awaitSubmission(m_supportClient.submitFeedback({sender(), rating, comment}));
 }
 
-void CameraViewModel::storeSubmissionResult(Submission kind, bool success, const QString &message,
+void CameraViewModel::storeSubmissionResult(int number, bool success, const QString &message,
                                             const QString &errorCode)
 {
-    if (m_abandonedReplies.removeOne(kind))
+    if (number != m_awaitedSubmission)
         return;
+    m_awaitedSubmission = 0;
     m_bugReportPending = false;
     m_bugReportSuccess = success;
     m_bugReportMessage = message;
@@ -115,9 +114,10 @@ void CameraViewModel::storeSubmissionResult(Submission kind, bool success, const
 }
 
 void CameraViewModel::onBugReport(bool success, const QString &bugId, const QString &message,
-                                  const QString &errorCode)
+                                  const QString &errorCode, int number)
 {
-    storeSubmissionResult(Submission::BugReport, success, message, errorCode);
+    m_bugReportsUnderWay.remove(number);
+    storeSubmissionResult(number, success, message, errorCode);
     if (success) {
         qDebug() << "[BugReport] erfolgreich, bugId=" << bugId;
         // Whichever way it was sent: the crash may have gone out by the bug dialog.
@@ -128,18 +128,18 @@ void CameraViewModel::onBugReport(bool success, const QString &bugId, const QStr
 }
 
 void CameraViewModel::onFeatureRequest(bool success, const QString &requestId,
-                                       const QString &message, const QString &errorCode)
+                                       const QString &message, const QString &errorCode, int number)
 {
-    storeSubmissionResult(Submission::FeatureRequest, success, message, errorCode);
+    storeSubmissionResult(number, success, message, errorCode);
     if (success)
         qDebug() << "[FeatureRequest] erfolgreich, requestId=" << requestId;
     emit bugReportStateChanged();
 }
 
 void CameraViewModel::onFeedback(bool success, const QString &feedbackId, const QString &message,
-                                 const QString &errorCode)
+                                 const QString &errorCode, int number)
 {
-    storeSubmissionResult(Submission::Feedback, success, message, errorCode);
+    storeSubmissionResult(number, success, message, errorCode);
     if (success)
         qDebug() << "[Feedback] erfolgreich, feedbackId=" << feedbackId;
     emit bugReportStateChanged();

@@ -4,7 +4,8 @@
 
 #include "BuildInfo.h"
 #include "server/UpdateState.h"
-#include "server/WebLink.h"
+#include "viewmodel/BoundedText.h"
+#include "viewmodel/WebLink.h"
 
 #include <QDebug>
 #include <QFile>
@@ -43,6 +44,11 @@ void CameraViewModel::onUpdateInfo(bool success, const UpdateInfo &info, const Q
     emit updateInfoChanged();
     if (serverChanged)
         emit serverInfoStateChanged();
+}
+
+QString CameraViewModel::updateReleaseNotes() const
+{
+    return boundedText(m_updateInfo.latest.releaseNotes);
 }
 
 void CameraViewModel::dismissUpdateBanner()

@@ -1,11 +1,9 @@
-#include "server/BoundedText.h"
-#include "server/CrashSubmission.h"
 #include "diagnostics/DataFolder.h"
+#include "server/CrashSubmission.h"
 #include "server/LegalDocumentCache.h"
 #include "server/MachineGuid.h"
 #include "server/ServerConfig.h"
 #include "server/SupportWire.h"
-#include "server/UpdateState.h"
 
 #include <QDir>
 #include <QFile>
@@ -68,11 +66,6 @@ Reader fromFile(QLatin1StringView name, const std::function<bool()> &read)
     };
 }
 
-bool isBounded(const QString &text)
-{
-    return text.size() <= kMaxShownText + 100;
-}
-
 } // namespace
 
 /// What comes from outside may hold anything: readers end with a record that keeps its promises.
@@ -101,15 +94,13 @@ private slots:
             [](const QByteArray &body) {
                 const auto reply = readUpdateInfoReply({200, false, {}, body});
                 const UpdateRelease &latest = reply.info.latest;
-                return isBounded(latest.releaseNotes) &&
-                       (reply.success || !reply.error.isEmpty()) &&
+                return (reply.success || !reply.error.isEmpty()) &&
                        latest.valid == !(latest.version.isEmpty() || latest.downloadUrl.isEmpty());
             });
         row("legal text", R"({"kind":"eula","version":"1.2","contentMarkdown":"# Titel ü"})",
             [](const QByteArray &body) {
                 const auto reply = readLegalDocumentReply(u"eula"_s, {200, false, {}, body});
-                return reply.success == !reply.info.contentMarkdown.isEmpty() &&
-                       isBounded(reply.info.contentMarkdown);
+                return reply.success == !reply.info.contentMarkdown.isEmpty();
             });
         row("submission", R"({"success":true,"bugId":"BUG-1","message":"Danke","errorCode":""})",
             [](const QByteArray &body) {
@@ -143,8 +134,6 @@ private slots:
                 return !usable ||
                        !(record.eulaMarkdown.isEmpty() || record.privacyMarkdown.isEmpty());
             }));
-        row("update state", "[General]\ndismissedVersion=1.2.0\n",
-            fromFile("update-state.ini"_L1, [] { return isBounded(loadDismissedVersion()); }));
         row("machine guid", "0f8fad5b-d9cb-469f-a165-70867728950e",
             fromFile("machine-guid"_L1, [] { return !QUuid::fromString(machineGuid()).isNull(); }));
     }

@@ -1,4 +1,3 @@
-#include "server/BoundedText.h"
 #include "diagnostics/DataFolder.h"
 #include "server/LegalDocumentCache.h"
 #include "server/MachineGuid.h"

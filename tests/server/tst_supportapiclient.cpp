@@ -1,14 +1,18 @@
+#include "server/StubServer.h"
 #include "server/SupportApiClient.h"
 #include "server/SupportServerTool.h"
+#include "server/SupportWire.h"
 
 #include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSignalSpy>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QTcpServer>
 #include <QTest>
+#include <QUrl>
 #include <QUuid>
 
 #include <memory>
@@ -140,84 +144,33 @@ private slots:
             server.output().contains(" (Qt; " + QSysInfo::prettyProductName().toUtf8() + ")\n"));
     }
 
-    void validation_data()
+    void repliesBelongToTheirRequests()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QByteArray>("screenshot");
-        QTest::addColumn<QString>("mime");
-        QTest::addColumn<QString>("code");
-        const QString text = u"x"_s;
-        const QByteArray image = png(100).toBase64();
-        const QString type = u"image/png"_s;
-        QTest::newRow("longest") << text.repeated(200) << text.repeated(8000) << image << type
-                                 << QString();
-        QTest::newRow("long title")
-            << text.repeated(201) << text << image << type << u"INVALID_TITLE"_s;
-        QTest::newRow("blank title") << u"  "_s << text << image << type << u"INVALID_TITLE"_s;
-        QTest::newRow("long description")
-            << text << text.repeated(8001) << image << type << u"INVALID_DESCRIPTION"_s;
-        QTest::newRow("GIF") << text << text << image << u"image/gif"_s
-                             << u"SCREENSHOT_INVALID_MIME"_s;
-        QTest::newRow("PNG called JPEG")
-            << text << text << image << u"image/jpeg"_s << u"SCREENSHOT_DECODE_FAILED"_s;
-        QTest::newRow("no Base64")
-            << text << text << "%%%"_ba << type << u"SCREENSHOT_DECODE_FAILED"_s;
-        QTest::newRow("a byte too large") << text << text << png(kMaxScreenshot + 1).toBase64()
-                                          << type << u"SCREENSHOT_TOO_LARGE"_s;
-    }
-
-    void validation()
-    {
-        QFETCH(QString, title);
-        QFETCH(QString, description);
-        QFETCH(QByteArray, screenshot);
-        QFETCH(QString, mime);
-        const BugReportRequest bug{
-            {newSender(), title, description, {}, QString::fromLatin1(screenshot), mime}, {}};
-        const Outcome result = send(*m_client, bug);
-        QVERIFY(result.answered);
-        QTEST(result.code, "code");
-        QCOMPARE(result.success, result.code.isEmpty());
-    }
-
-    void feedbackIsValidated()
-    {
-        FeedbackRequest feedback = soundFeedback();
-        feedback.rating = 6;
-        QCOMPARE(send(*m_client, feedback).code, "INVALID_RATING");
-        feedback.rating = 5;
-        feedback.comment = QString(4001, u'x');
-        QCOMPARE(send(*m_client, feedback).code, "INVALID_COMMENT");
-        feedback.comment.chop(1);
-        QVERIFY(send(*m_client, feedback).success);
-    }
-
-    void rateLimits()
-    {
-        const BugReportRequest bug{soundReport(), {}};
-        const FeatureRequestRequest feature{soundReport()};
-        const FeedbackRequest feedback = soundFeedback();
-        for (int i = 0; i < 10; ++i)
-            QVERIFY(send(*m_client, bug).success);
-        QCOMPARE(send(*m_client, bug).code, "BUG_REPORT_RATE_LIMIT_EXCEEDED");
-        for (int i = 0; i < 5; ++i)
-            QVERIFY(send(*m_client, feature).success);
-        QCOMPARE(send(*m_client, feature).code, "FEATURE_REQUEST_RATE_LIMIT_EXCEEDED");
-        QVERIFY(send(*m_client, feedback).success);
-        QCOMPARE(send(*m_client, feedback).code, "FEEDBACK_RATE_LIMIT_EXCEEDED");
-        for (int i = 0; i < 58; ++i)
-            QCOMPARE(send(*m_client, feedback).code, "FEEDBACK_RATE_LIMIT_EXCEEDED");
-        QCOMPARE(send(*m_client, feedback).code, "RATE_LIMITED");
-        QVERIFY2(send(*m_client, soundFeedback()).success, "each installation has its own");
-    }
-
-    void bugReportsOfTestersOnly()
-    {
-        const SupportServerTool server({u"--beta-only"_s});
-        m_client->setBaseUrl(server.http());
-        QCOMPARE(send(*m_client, BugReportRequest{soundReport(), {}}).code, "NOT_BETA_TESTER");
-        QVERIFY(send(*m_client, FeatureRequestRequest{soundReport()}).success);
+        const QString path = u"/api/license/report-bug"_s;
+        StubServer server;
+        server.setHolding(true);
+        m_client->setBaseUrl(server.address());
+        QSignalSpy bugs(m_client.get(), &SupportApiClient::bugReportFinished);
+        QSignalSpy feedback(m_client.get(), &SupportApiClient::feedbackFinished);
+        const int first = m_client->submitBugReport({soundReport(), {}});
+        const int second = m_client->submitBugReport({soundReport(), {}});
+        const int third = m_client->submitFeedback(soundFeedback());
+        QVERIFY(first > 0 && second > first && third > second);
+        QTRY_COMPARE(server.received(path).size(), 2);
+        QTRY_COMPARE(server.received(u"/api/license/feedback"_s).size(), 1);
+        // Each connection is a road of its own: which came first the server cannot know.
+        const auto title = [&](int i) { return server.received(path)[i].toMap()["title"]; };
+        QCOMPARE(title(0), title(1));
+        server.release(u"/api/license/feedback"_s, 0, {{u"success"_s, true}});
+        QVERIFY(feedback.wait(kTimeoutMs));
+        QCOMPARE(feedback[0][4].toInt(), third);
+        for (const int index : {1, 0}) {
+            server.release(path, index, {{u"success"_s, true}, {u"bugId"_s, index}});
+            QTRY_COMPARE(bugs.size(), 2 - index);
+        }
+        QCOMPARE((QSet{bugs[0][4].toInt(), bugs[1][4].toInt()}), (QSet{first, second}));
+        // Qt would tell the languages of the system.
+        QCOMPARE(server.header(path, "Accept-Language"), "*");
     }
 
     void faults_data()
@@ -357,6 +310,21 @@ private slots:
         const Outcome result = send(*m_client, soundFeedback());
         QSslConfiguration::setDefaultConfiguration(before);
         QVERIFY2(result.success, qPrintable(result.message));
+    }
+
+    void aRedirectMustNotEndTheEncryption()
+    {
+        const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+        QSslConfiguration trusting = before;
+        QVERIFY(trusting.addCaCertificates(m_server->certificate()));
+        QSslConfiguration::setDefaultConfiguration(trusting);
+        const auto sent = m_server->received().size();
+        m_client->setBaseUrl(m_server->https() +
+                             u"/~downgrade-%1"_s.arg(QUrl(m_server->http()).port()));
+        const Outcome result = send(*m_client, soundFeedback());
+        QSslConfiguration::setDefaultConfiguration(before);
+        QVERIFY(result.answered && !result.success);
+        QCOMPARE(m_server->received().size(), sent + 1);
     }
 
     /// All at once, since each waits for the transfer timeout.

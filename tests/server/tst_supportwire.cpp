@@ -1,4 +1,5 @@
-#include "server/BoundedText.h"
+#include "MessageRecorder.h"
+#include "diagnostics/LogManager.h"
 #include "server/CrashSubmission.h"
 #include "server/ServerErrors.h"
 #include "server/SupportWire.h"
@@ -166,30 +167,23 @@ private slots:
                  "HTTP 400");
     }
 
-    void longTextsAreCut_data()
+    // The log goes by lines, and a terminal by escape sequences: neither may be the server's.
+    void bodiesAreLoggedOnOneLine()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("shown"); // before the note; empty if the text is not cut
-        const QString line = u"0123456789\n"_s;
-        const QString longLine = u"x"_s.repeated(99) + u'\n';
-        const QString smile = u"😀"_s;
-        QTest::newRow("longest") << QString(kMaxShownText, u'x') << QString();
-        QTest::newRow("most lines") << line.repeated(kMaxShownLines) << QString();
-        QTest::newRow("a line more")
-            << line.repeated(kMaxShownLines + 1) << line.repeated(kMaxShownLines);
-        QTest::newRow("long lines")
-            << u"+"_s + longLine.repeated(1900) << (u"+"_s + longLine.repeated(999)).chopped(1);
-        QTest::newRow("one line") << QString(10000000, u'x') << QString(kMaxShownText, u'x');
-        QTest::newRow("no half character") << u"x"_s + smile.repeated(kMaxShownText)
-                                           << u"x"_s + smile.repeated(kMaxShownText / 2 - 1);
-    }
-
-    void longTextsAreCut()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, shown);
-        const QString note = shown.isEmpty() ? QString() : u"\n\n*Der Text wurde gekürzt.*\n"_s;
-        QVERIFY(boundedText(text) == (shown.isEmpty() ? text : shown) + note);
+        const QByteArray body = "{\"a\":1}\r\n2026-01-01 00:00:00.000 [INF]\t[x]\x1b[2J\x07\xc2\x9b"
+                                "\xe2\x80\xa8\xe2\x80\xae \xc3\xbc%1";
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            QString(u"[LegalDoc] eula HTTP 500 {\"a\":1}  2026-01-01 00:00:00.000 [INF] [x]"
+                    "\\u001b[2J\\u0007\\u009b\\u2028\\u202e ü%1"_s)
+                .toUtf8()
+                .constData());
+        QVERIFY(!readLegalDocumentReply(u"eula"_s, {500, true, {}, body}).success);
+        // What the log's cleaning looks for it still finds.
+        const MessageRecorder log(QtDebugMsg);
+        readUpdateInfoReply({200, false, {}, "{\"emailConfirm\":\n \"a@b.de\"}"});
+        QCOMPARE(LogManager::sanitize(log.lines().constLast()),
+                 u"[UpdateInfo] HTTP 200 Antwort: {\"emailConfirm\":\"<redacted>\"}"_s);
     }
 
     void crash_data()

@@ -1,15 +1,20 @@
 #include "ViewModelFixture.h"
 
+#include "BuildInfo.h"
 #include "MessageRecorder.h"
 #include "diagnostics/DataFolder.h"
+#include "diagnostics/LogManager.h"
+#include "server/StubServer.h"
 #include "server/SupportServerTool.h"
 
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -23,6 +28,10 @@ namespace {
 const QByteArray kCrash = "=== Meridax Crash Report ===\r\n"
                           "ExceptionCode: 0xC0000005 (ACCESS_VIOLATION)\r\n"
                           "Module:        meridax+0x1F\r\n";
+
+const QString kBugPath = u"/api/license/report-bug"_s;
+const QString kFeaturePath = u"/api/license/feature-request"_s;
+const QString kFeedbackPath = u"/api/license/feedback"_s;
 
 void write(QLatin1StringView name, const QByteArray &content)
 {
@@ -212,9 +221,11 @@ private slots:
 
     void legalCacheWithOldNames()
     {
+        const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
         write("legal-docs.json"_L1, QJsonDocument(QJsonObject{{"agbVersion", "3"},
                                                               {"agbMarkdown", "# Alt"},
-                                                              {"privacyMarkdown", "# P"}})
+                                                              {"privacyMarkdown", "# P"},
+                                                              {"fetchedAt", now}})
                                         .toJson());
         const auto viewModel = start();
         QVERIFY(viewModel->legalDocsReady());
@@ -225,6 +236,42 @@ private slots:
         QTRY_VERIFY(viewModel->legalDocsReady());
         QCOMPARE(viewModel->eulaMarkdown(), u"# Neu"_s);
         QCOMPARE(viewModel->eulaVersion(), "3"); // the first one of a run stays
+    }
+
+    void oldLegalTextsAreRenewed()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const auto cacheOf = [](const QDateTime &time) {
+            LegalDocumentCache::save({u"1"_s, u"# Alt"_s, u"1"_s, u"# P"_s, time});
+        };
+        const auto fetched = m_server->output().count("/eula");
+        cacheOf(now.addDays(-6));
+        start();
+        QVERIFY2(m_server->output().count("/eula") == fetched, "still good");
+
+        // Without the second text everything stays as it is, and nobody is told.
+        cacheOf(now.addDays(-8));
+        QVERIFY(QFile::remove(m_content.filePath(u"privacy.json"_s)));
+        {
+            const MessageRecorder warnings(QtWarningMsg);
+            const auto viewModel = start();
+            QTRY_COMPARE(warnings.lines().size(), 1); // of the client
+            QCOMPARE(viewModel->eulaMarkdown(), u"# Alt"_s);
+            QVERIFY(viewModel->legalDocsReady() && !viewModel->legalDocsLoading());
+            QCOMPARE(viewModel->legalDocsError(), QString());
+        }
+        publish("privacy", {{"version", "6"}, {"contentMarkdown", "# Privat"}});
+        for (const QDateTime &time : {now.addDays(-8), now.addDays(8)}) {
+            cacheOf(time);
+            const auto viewModel = start();
+            QTRY_COMPARE(viewModel->eulaMarkdown(), u"# Neu"_s);
+            QCOMPARE(viewModel->eulaVersion(), "5");
+            LegalDocsRecord cached;
+            QVERIFY(LegalDocumentCache::load(cached));
+            QCOMPARE(cached.privacyMarkdown, "# Privat");
+            QCOMPARE(cached.privacyVersion, "6");
+            QVERIFY(qAbs(cached.fetchedAt.secsTo(now)) < 600);
+        }
     }
 
     void aFailedFetchKeepsTheFile()
@@ -273,10 +320,8 @@ private slots:
         QCOMPARE(viewModel->bugReportError(), QString());
         QCOMPARE(changed.size(), 2);
         QCOMPARE(m_server->received().size(), before + 1);
-        const QByteArray body = m_server->body(m_server->received().constLast());
-        const QJsonObject sent = QJsonDocument::fromJson(body).object();
+        const QJsonObject sent = newestRequest();
         QCOMPARE(sent["appVersion"].toString(), viewModel->appVersion());
-        QVERIFY(sent["platform"].toString().contains(u'-'));
         QCOMPARE(sent["category"].toString(), "GUI");
         QVERIFY(!sent.contains("logsExcerpt"));
 
@@ -288,38 +333,119 @@ private slots:
         QVERIFY(!viewModel->bugReportSuccess() && !viewModel->bugReportPending());
     }
 
-    void aLateReplyLeavesTheNextForm()
+    void repliesMeetTheirForms_data()
     {
-        const auto viewModel = start();
+        QTest::addColumn<int>("answeredFirst");
+        QTest::newRow("in order") << 0;
+        QTest::newRow("the later form first") << 1;
+    }
+
+    // Two bug reports in flight, the first of a form that is closed.
+    void repliesMeetTheirForms()
+    {
+        QFETCH(int, answeredFirst);
+        StubServer server;
+        const auto viewModel = startWith(server);
+        write("crash.txt"_L1, kCrash);
+        viewModel->submitBugReport(u"1"_s, u"D"_s, {}, {});
+        QTRY_COMPARE(server.received(kBugPath).size(), 1);
+        viewModel->clearBugReportState();
+        QVERIFY(!viewModel->bugReportPending() && viewModel->bugReportUnderWay());
+        viewModel->sendCrashReport();
+        QVERIFY2(!viewModel->bugReportPending(), "it may be on its way already");
+        viewModel->submitBugReport(u"2"_s, u"D"_s, {}, {});
+        QTRY_COMPARE(server.received(kBugPath).size(), 2);
         QSignalSpy changed(viewModel.get(), &CameraViewModel::bugReportStateChanged);
-        viewModel->submitFeatureRequest(u"T"_s, u"D"_s, {}, {}, u"GUI"_s);
-        viewModel->clearBugReportState(); // the form was closed meanwhile
-        QTRY_COMPARE(changed.size(), 3);
-        QVERIFY2(!viewModel->bugReportSuccess(), "the next form would close as sent");
-        viewModel->submitFeatureRequest(u"T"_s, u"D"_s, {}, {}, u"GUI"_s);
-        QTRY_VERIFY(viewModel->bugReportSuccess());
+        for (const int index : {answeredFirst, 1 - answeredFirst}) {
+            server.release(kBugPath, index, {{u"success"_s, index == 0}, {u"errorCode"_s, u"X"_s}});
+            const bool own = index == 1;
+            QVERIFY(changed.wait());
+            QCOMPARE(viewModel->bugReportUnderWay(), index == answeredFirst);
+            QCOMPARE(viewModel->bugReportPending(), !own && answeredFirst == 0);
+            QCOMPARE(viewModel->hasUnsentCrash(), own && answeredFirst == 1);
+            QVERIFY(!viewModel->bugReportSuccess());
+        }
+        QCOMPARE(viewModel->bugReportError(), "X");
     }
 
     void crashIsSentOnce()
     {
-        write("crash.txt"_L1, kCrash);
+        LogManager::install();
+        const QByteArray homeBefore = qgetenv("HOME");
+        qputenv("HOME", "/home/erika");
+        write("crash.txt"_L1, kCrash + "[main] /home/erika/Bilder\n");
         const auto viewModel = start();
         QSignalSpy changed(viewModel.get(), &CameraViewModel::crashStateChanged);
         QVERIFY(viewModel->hasUnsentCrash());
         QCOMPARE(viewModel->crashReportTitle(), u"[Crash] ACCESS_VIOLATION in meridax+0x1F"_s);
+        QTest::ignoreMessage(QtInfoMsg, "[test] /home/erika/Bilder, erika@example.org");
+        qInfo("[test] /home/erika/Bilder, erika@example.org");
         viewModel->sendCrashReport(u"Beim Start"_s);
         QTRY_VERIFY(viewModel->bugReportSuccess());
+        qputenv("HOME", homeBefore);
         QVERIFY(!viewModel->hasUnsentCrash());
         QCOMPARE(changed.size(), 1);
-        const QByteArray body = m_server->body(m_server->received().constLast());
-        const QJsonObject sent = QJsonDocument::fromJson(body).object();
+        const QJsonObject sent = newestRequest();
         QCOMPARE(sent["title"].toString(), u"[Crash] ACCESS_VIOLATION in meridax+0x1F"_s);
         QCOMPARE(sent["category"].toString(), "Crash");
-        QVERIFY(sent["description"].toString().startsWith(
+        const QString description = sent["description"].toString();
+        QVERIFY(description.startsWith(
             u"Beim Start\n\n=== Crash-Report ===\n=== Meridax Crash Report ===\n"_s));
+        QVERIFY2(description.endsWith("[main] ~/Bilder\n"_L1), qPrintable(description));
+        const QString excerpt = sent["logsExcerpt"].toString();
+        QVERIFY2(excerpt.contains("[test] ~/Bilder, <user>@example.org"_L1), qPrintable(excerpt));
+        QVERIFY(!excerpt.contains("erika"_L1));
 
         viewModel->sendCrashReport();
         QVERIFY2(!viewModel->bugReportPending(), "there is none any more");
+    }
+
+    // A full disk leaves an empty file, and what cannot be removed must not lie over the window for
+    // ever.
+    void aCrashThatCannotBeRead()
+    {
+        write("crash.txt"_L1, {});
+        auto viewModel = start();
+        QCOMPARE(viewModel->crashReportTitle(), u"[Crash]"_s);
+        viewModel->sendCrashReport();
+        QVERIFY(!viewModel->bugReportPending() && viewModel->hasUnsentCrash());
+        viewModel->dismissCrashReport();
+        QVERIFY(!viewModel->hasUnsentCrash());
+        QCOMPARE(viewModel->crashReportTitle(), QString());
+
+        QVERIFY(QDir().mkpath(dataFilePath("crash.txt"_L1)));
+        viewModel = start();
+        QVERIFY(viewModel->hasUnsentCrash());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"crash.txt lässt sich nicht"_s));
+        viewModel->dismissCrashReport();
+        QVERIFY(!viewModel->hasUnsentCrash());
+    }
+
+    // By its identifier the server knows an installation, whatever it sends.
+    void everyRequestNamesTheInstallation()
+    {
+        StubServer server;
+        const auto viewModel = startWith(server);
+        server.answer(kBugPath, 200, {{u"success"_s, true}, {u"bugId"_s, u"B7"_s}});
+        server.answer(kFeedbackPath, 200, {{u"success"_s, true}, {u"feedbackId"_s, u"R8"_s}});
+        server.answer(kFeaturePath, 200, {{u"success"_s, true}, {u"requestId"_s, u"F9"_s}});
+        server.setHolding(false);
+        const MessageRecorder log(QtDebugMsg);
+        viewModel->submitBugReportWithLogs(u"T"_s, u"D"_s, {}, {}, true);
+        QTRY_VERIFY(viewModel->bugReportSuccess());
+        viewModel->submitFeatureRequest(u"T"_s, u"D"_s, {}, {});
+        QTRY_VERIFY(viewModel->bugReportSuccess());
+        viewModel->submitFeedback(1, {});
+        QTRY_VERIFY(viewModel->bugReportSuccess());
+        QCOMPARE(log.lines(), (QStringList{u"[BugReport] erfolgreich, bugId= \"B7\""_s,
+                                           u"[FeatureRequest] erfolgreich, requestId= \"F9\""_s,
+                                           u"[Feedback] erfolgreich, feedbackId= \"R8\""_s}));
+        for (const QString &path :
+             {kBugPath, kFeaturePath, kFeedbackPath, u"/api/license/update-info"_s}) {
+            const QVariantMap sent = server.received(path).constLast().toMap();
+            QCOMPARE(sent["machineGuid"].toString(), machineGuid());
+            QCOMPARE(sent["platform"].toString(), build::platform());
+        }
     }
 
     void crashStaysUntilItIsSentOrDismissed()
@@ -414,6 +540,22 @@ private slots:
     }
 
 private:
+    QJsonObject newestRequest() const
+    {
+        const QByteArray body = m_server->body(m_server->received().constLast());
+        return QJsonDocument::fromJson(body).object();
+    }
+
+    /// A start of the program with a server that holds its answers back, but for that on updates.
+    static fixture::ViewModel startWith(StubServer &server)
+    {
+        SupportServerTool::configure(server.address());
+        server.answer(u"/api/license/update-info"_s, 200, {});
+        auto viewModel = start();
+        server.setHolding(true);
+        return viewModel;
+    }
+
     /// One release as the server would describe it.
     static QJsonObject release(const QString &version)
     {

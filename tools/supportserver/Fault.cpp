@@ -26,11 +26,12 @@ Fault faultOf(const QString &name)
         if (name == plainName)
             return {kind, kHugeBytes, {}};
     }
-    static constexpr std::array<std::pair<QLatin1StringView, Fault::Kind>, 4> withArgument{{
+    static constexpr std::array<std::pair<QLatin1StringView, Fault::Kind>, 5> withArgument{{
         {"status-"_L1, Fault::Status},
         {"empty-"_L1, Fault::Empty},
         {"code-"_L1, Fault::Code},
         {"padded-"_L1, Fault::Padded},
+        {"downgrade-"_L1, Fault::Downgrade},
     }};
     for (const auto &[prefix, kind] : withArgument) {
         if (name.startsWith(prefix)) {

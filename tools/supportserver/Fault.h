@@ -10,16 +10,17 @@ struct Fault
 {
     enum Kind {
         None,
-        Slow,     ///< no answer for half a minute
-        HangUp,   ///< closes the connection in the middle of the body
-        Status,   ///< the proper answer with the status `number`
-        Empty,    ///< no body, status `number`
-        Code,     ///< a failure with the error code `text`
-        Html,     ///< a web page in place of JSON
-        Redirect, ///< sends the client to the address without the fault
-        Loop,     ///< sends the client to the same address again and again
-        Padded,   ///< the proper answer, filled with blanks to `number` bytes
-        Huge,     ///< `number` bytes of a body that never ends
+        Slow,      ///< no answer for half a minute
+        HangUp,    ///< closes the connection in the middle of the body
+        Status,    ///< the proper answer with the status `number`
+        Empty,     ///< no body, status `number`
+        Code,      ///< a failure with the error code `text`
+        Html,      ///< a web page in place of JSON
+        Redirect,  ///< sends the client to the address without the fault
+        Downgrade, ///< sends the client to port `number` of this machine, without encryption
+        Loop,      ///< sends the client to the same address again and again
+        Padded,    ///< the proper answer, filled with blanks to `number` bytes
+        Huge,      ///< `number` bytes of a body that never ends
         Unknown,
     };
 

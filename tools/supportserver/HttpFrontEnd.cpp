@@ -107,6 +107,10 @@ void HttpFrontEnd::deliver(const Fault &fault, Answer answer, const QHttpServerR
                      responder);
     case Fault::Redirect:
         return redirect(splitFault(request.url().path()).path, responder);
+    case Fault::Downgrade:
+        return redirect(
+            u"http://127.0.0.1:%1%2"_s.arg(fault.number).arg(splitFault(request.url().path()).path),
+            responder);
     case Fault::Loop:
         return redirect(request.url().path(), responder);
     case Fault::Padded:

@@ -1,6 +1,6 @@
-#include "StubServer.h"
 #include "TestDesk.h"
 #include "items/LinkColor.h"
+#include "server/StubServer.h"
 
 #include <QDir>
 #include <QGuiApplication>

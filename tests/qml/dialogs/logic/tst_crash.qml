@@ -9,6 +9,7 @@ WindowTestCase {
     name: "CrashRecovery"
 
     readonly property string bugPath: "/api/license/report-bug"
+    readonly property string feedbackPath: "/api/license/feedback"
     readonly property string report: "=== Meridax Crash Report ===\r\n"
         + "Timestamp:     2026-08-20T22:34:18.123Z\r\n"
         + "ExceptionCode: 0xC0000005 (ACCESS_VIOLATION)\r\n"
@@ -27,6 +28,7 @@ WindowTestCase {
 
     function cleanup() {
         testServer.holding = false;
+        tryCompare(ViewModel, "bugReportUnderWay", false);
         tryCompare(ViewModel, "bugReportPending", false);
         ViewModel.clearBugReportState();
         ViewModel.dismissCrashReport();
@@ -108,6 +110,89 @@ WindowTestCase {
         verify(!testDesk.hasData("crash.txt"));
         wait(0);
         verify(!dialog.visible);
+    }
+
+    // A form opens while the report is on its way: neither takes the other's reply for its own.
+    function test_formWhileTheReportIsUnderWay_data() {
+        return [
+            { tag: "sent, first", crash: true, crashFirst: true },
+            { tag: "sent, last", crash: true, crashFirst: false },
+            { tag: "failed, first", crash: false, crashFirst: true },
+            { tag: "failed, last", crash: false, crashFirst: false }
+        ];
+    }
+    function test_formWhileTheReportIsUnderWay(data) {
+        const dialog = openOffer();
+        testServer.holding = true;
+        mouseClick(part(dialog, "sendCrashButton"));
+        closed(dialog);
+        tryVerify(() => testServer.received(bugPath).length === 1);
+        const answerCrash = () => {
+            testServer.release(bugPath, 0, { success: data.crash });
+            tryCompare(ViewModel, "bugReportUnderWay", false);
+            compare(testDesk.hasData("crash.txt"), !data.crash);
+        };
+
+        mouseClick(part(openSettings(), "feedbackButton"));
+        const form = item("feedbackDialog");
+        opened(form);
+        verify(!dialog.visible);
+        const comment = findChild(part(form, "commentArea"), "area");
+        comment.text = "Gut";
+        mouseClick(part(form, "star4"));
+        if (data.crashFirst) {
+            answerCrash();
+            verify(!dialog.visible && part(form, "sendButton").enabled);
+        }
+        mouseClick(part(form, "sendButton"));
+        tryVerify(() => testServer.received(feedbackPath).length === 1);
+        if (!data.crashFirst) {
+            answerCrash();
+            verify(part(form, "busyIndicator").visible);
+        }
+        verify(form.opened && !part(form, "successLabel").visible);
+        verify(!part(form, "errorLabel").visible && !dialog.visible);
+        compare(comment.text, "Gut");
+        testServer.release(feedbackPath, 0, { success: true });
+        tryCompare(part(form, "successLabel"), "visible", true);
+        closed(form);
+        if (data.crash)
+            verify(!dialog.visible);
+        else
+            opened(dialog);
+        compare(testServer.received(bugPath).length, 1);
+    }
+
+    // The form of the report was closed before the answer: the same must not be offered again.
+    function test_closedWhileSending() {
+        const dialog = openOffer();
+        mouseClick(part(dialog, "describeCrashButton"));
+        const form = item("bugReportDialog");
+        opened(form);
+        testServer.holding = true;
+        mouseClick(part(form, "sendButton"));
+        tryVerify(() => testServer.received(bugPath).length === 1);
+        keyClick(Qt.Key_Escape);
+        closed(form);
+        verify(!dialog.visible && testDesk.hasData("crash.txt"));
+        testServer.release(bugPath, 0, { success: true, bugId: "C3" });
+        tryCompare(ViewModel, "bugReportUnderWay", false);
+        verify(!dialog.visible && !testDesk.hasData("crash.txt"));
+    }
+
+    function test_emptyReport() {
+        testDesk.writeData("crash.txt", "");
+        const dialog = openOffer();
+        verify(part(dialog, "crashUnreadableNote").visible);
+        verify(!part(dialog, "sendCrashButton").enabled);
+        mouseClick(part(dialog, "describeCrashButton"));
+        const form = item("bugReportDialog");
+        opened(form);
+        compare(part(form, "titleField").text, "[Crash]");
+        mouseClick(part(form, "cancelButton"));
+        closed(form);
+        mouseClick(part(dialog, "discardCrashButton"));
+        closed(dialog);
     }
 
     // Not cut here: the user decides what goes.

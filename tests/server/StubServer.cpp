@@ -5,15 +5,16 @@
 
 namespace {
 
-/// The value of the header Content-Length in `head`, 0 without one.
-qsizetype contentLength(const QByteArray &head)
+/// The value of the header `name` in `head`, empty without one.
+QByteArray headerIn(const QByteArray &head, const QByteArray &name)
 {
-    const QList<QByteArray> lines = head.toLower().split('\n');
+    const QList<QByteArray> lines = head.split('\n');
     for (const QByteArray &line : lines) {
-        if (line.startsWith("content-length:"))
-            return line.sliced(line.indexOf(':') + 1).trimmed().toLongLong();
+        const qsizetype colon = line.indexOf(':');
+        if (colon > 0 && line.first(colon).compare(name, Qt::CaseInsensitive) == 0)
+            return line.sliced(colon + 1).trimmed();
     }
-    return 0;
+    return {};
 }
 
 /// "/path" from "POST /path?query HTTP/1.1".
@@ -58,6 +59,26 @@ void StubServer::answer(const QString &path, int status, const QVariantMap &body
     m_answers.insert(path, {status, QJsonDocument(QJsonObject::fromVariantMap(body)).toJson()});
 }
 
+void StubServer::release(const QString &path, int index, const QVariantMap &body)
+{
+    for (Request &request : m_requests) {
+        if (request.path != path || index-- > 0)
+            continue;
+        send(request, {200, QJsonDocument(QJsonObject::fromVariantMap(body)).toJson()});
+        return;
+    }
+    qFatal("No such request");
+}
+
+QByteArray StubServer::header(const QString &path, const QByteArray &name) const
+{
+    for (auto request = m_requests.rbegin(); request != m_requests.rend(); ++request) {
+        if (request->path == path)
+            return headerIn(request->head, name);
+    }
+    return {};
+}
+
 QVariantList StubServer::received(const QString &path) const
 {
     QVariantList bodies;
@@ -82,26 +103,29 @@ void StubServer::read(QTcpSocket *socket)
         return;
     const QByteArray head = data.first(headEnd);
     const QByteArray body = data.sliced(headEnd + 4);
-    if (body.size() < contentLength(head))
+    if (body.size() < headerIn(head, "Content-Length").toLongLong())
         return;
     data.clear();
     m_requests.append(
-        {requestedPath(head), QJsonDocument::fromJson(body).toVariant(), socket, false});
+        {requestedPath(head), head, QJsonDocument::fromJson(body).toVariant(), socket, false});
     if (!m_holding)
         answerAll();
 }
 
 void StubServer::answerAll()
 {
-    for (Request &request : m_requests) {
-        if (request.answered || !request.socket)
-            continue;
-        request.answered = true;
-        const Answer answer = m_answers.value(request.path);
-        request.socket->write("HTTP/1.1 " + QByteArray::number(answer.status) +
-                              " -\r\nContent-Type: application/json\r\nConnection: close\r\n"
-                              "Content-Length: " +
-                              QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
-        request.socket->disconnectFromHost();
-    }
+    for (Request &request : m_requests)
+        send(request, m_answers.value(request.path));
+}
+
+void StubServer::send(Request &request, const Answer &answer)
+{
+    if (request.answered || !request.socket)
+        return;
+    request.answered = true;
+    request.socket->write("HTTP/1.1 " + QByteArray::number(answer.status) +
+                          " -\r\nContent-Type: application/json\r\nConnection: close\r\n"
+                          "Content-Length: " +
+                          QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
+    request.socket->disconnectFromHost();
 }

@@ -8,7 +8,8 @@
 #include <QTcpSocket>
 #include <QVariantMap>
 
-/// Stands for the support server in the QML test cases: one request a connection, answers as told.
+/// Stands for the support server inside a test: one request a connection, answers as told and,
+/// while it is holding, when told.
 class StubServer : public QObject
 {
     Q_OBJECT
@@ -23,6 +24,10 @@ public:
 
     /// From now on requests for `path` get `status` and `body` as JSON.
     Q_INVOKABLE void answer(const QString &path, int status, const QVariantMap &body);
+    /// Answers the request number `index` of those for `path`, with status 200, though it is held.
+    Q_INVOKABLE void release(const QString &path, int index, const QVariantMap &body);
+    /// What the newest request for `path` says in the header `name`.
+    QByteArray header(const QString &path, const QByteArray &name) const;
     /// The JSON bodies that came for `path`, oldest first.
     Q_INVOKABLE QVariantList received(const QString &path) const;
     Q_INVOKABLE void clear();
@@ -36,6 +41,7 @@ private:
     struct Request
     {
         QString path;
+        QByteArray head;
         QVariant body;
         QPointer<QTcpSocket> socket;
         bool answered = false;
@@ -43,10 +49,11 @@ private:
 
     void read(QTcpSocket *socket);
     void answerAll();
+    static void send(Request &request, const Answer &answer);
 
-    QTcpServer m_server;
     QHash<QString, Answer> m_answers;
     QHash<QTcpSocket *, QByteArray> m_unread;
     QList<Request> m_requests;
     bool m_holding = false;
+    QTcpServer m_server; // its sockets, which end with it, still need the others
 };

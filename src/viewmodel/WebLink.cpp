@@ -1,4 +1,4 @@
-#include "server/WebLink.h"
+#include "viewmodel/WebLink.h"
 
 #include <QDesktopServices>
 #include <QUrl>

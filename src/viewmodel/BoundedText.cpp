@@ -1,4 +1,4 @@
-#include "server/BoundedText.h"
+#include "viewmodel/BoundedText.h"
 
 #include <QCoreApplication>
 
