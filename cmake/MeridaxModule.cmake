@@ -53,7 +53,7 @@ qt_add_qml_module(meridax_module
         src/viewmodel/CameraViewModel_focus.cpp
         src/viewmodel/CameraViewModel_identity.cpp
         src/viewmodel/CameraViewModel_legal.cpp
-        src/viewmodel/CameraViewModel_overlay.cpp
+        src/viewmodel/CameraViewModel_center.cpp
         src/viewmodel/CameraViewModel_presets.cpp
         src/viewmodel/CameraViewModel_profile.cpp
         src/viewmodel/CameraViewModel_screenshot.cpp

@@ -558,6 +558,10 @@
         <source>Nein</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Gemessen mit %1. Das Zentrum gilt, sobald diese Kamera mit dieser Auflösung wieder gewählt ist.</source>
+        <translation>Measured with %1. The centre applies as soon as this camera is selected again at this resolution.</translation>
+    </message>
 </context>
 <context>
     <name>CenterFigures</name>
@@ -890,6 +894,13 @@ Click here to turn it off.</translation>
     <message>
         <source>Schließen</source>
         <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Messung verworfen: andere Kamera oder Auflösung gewählt</source>
+        <translation>Measurement dropped: other camera or resolution selected</translation>
     </message>
 </context>
 <context>

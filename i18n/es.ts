@@ -558,6 +558,10 @@
         <source>Nein</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Gemessen mit %1. Das Zentrum gilt, sobald diese Kamera mit dieser Auflösung wieder gewählt ist.</source>
+        <translation>Medido con %1. El centro se aplica en cuanto se elija de nuevo esta cámara con esta resolución.</translation>
+    </message>
 </context>
 <context>
     <name>CenterFigures</name>
@@ -890,6 +894,13 @@ Haz clic aquí para desactivarlo.</translation>
     <message>
         <source>Schließen</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Messung verworfen: andere Kamera oder Auflösung gewählt</source>
+        <translation>Medición descartada: se eligió otra cámara o resolución</translation>
     </message>
 </context>
 <context>

@@ -558,6 +558,10 @@
         <source>Nein</source>
         <translation>Non</translation>
     </message>
+    <message>
+        <source>Gemessen mit %1. Das Zentrum gilt, sobald diese Kamera mit dieser Auflösung wieder gewählt ist.</source>
+        <translation>Mesuré avec %1. Le centre s’applique dès que cette caméra est à nouveau choisie avec cette résolution.</translation>
+    </message>
 </context>
 <context>
     <name>CenterFigures</name>
@@ -890,6 +894,13 @@ Cliquez ici pour la désactiver.</translation>
     <message>
         <source>Schließen</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Messung verworfen: andere Kamera oder Auflösung gewählt</source>
+        <translation>Mesure abandonnée : autre caméra ou résolution choisie</translation>
     </message>
 </context>
 <context>

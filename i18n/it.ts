@@ -558,6 +558,10 @@
         <source>Nein</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Gemessen mit %1. Das Zentrum gilt, sobald diese Kamera mit dieser Auflösung wieder gewählt ist.</source>
+        <translation>Misurato con %1. Il centro vale appena questa camera viene scelta di nuovo con questa risoluzione.</translation>
+    </message>
 </context>
 <context>
     <name>CenterFigures</name>
@@ -890,6 +894,13 @@ Fai clic qui per disattivarla.</translation>
     <message>
         <source>Schließen</source>
         <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Messung verworfen: andere Kamera oder Auflösung gewählt</source>
+        <translation>Misura scartata: scelta un’altra camera o risoluzione</translation>
     </message>
 </context>
 <context>

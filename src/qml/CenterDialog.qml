@@ -3,8 +3,8 @@ import QtQuick.Controls.Material
 import QtQuick.Layouts
 import Meridax
 
-/// Asks whether a measured centre becomes the centre of the overlay. Every way to close it other
-/// than Yes discards the centre.
+/// Asks whether a measured centre becomes the centre of the overlay. Only Yes and No close it: a
+/// whole calibration is too much to lose by a stray click.
 Dialog {
     id: dialog
 
@@ -28,6 +28,7 @@ Dialog {
     height: Math.min(implicitHeight, parent.height - 32)
     modal: true
     focus: true
+    closePolicy: Popup.NoAutoClose
     visible: ViewModel.hasPendingCenter
     title: qsTr("Kalibrierung abgeschlossen")
     Material.background: Theme.settingsPanelBg
@@ -83,6 +84,17 @@ Dialog {
 
             Label {
                 text: qsTr("Gemessenes Zentrum übernehmen?")
+                font.pixelSize: 13
+                wrapMode: Text.WordWrap
+                Layout.fillWidth: true
+            }
+
+            Label {
+                objectName: "elsewhereNote"
+                visible: ViewModel.pendingCenterElsewhere
+                text: qsTr("Gemessen mit %1. Das Zentrum gilt, sobald diese Kamera mit dieser "
+                           + "Auflösung wieder gewählt ist.").arg(ViewModel.pendingCenterCamera)
+                textFormat: Text.PlainText
                 font.pixelSize: 13
                 wrapMode: Text.WordWrap
                 Layout.fillWidth: true
@@ -154,7 +166,7 @@ Dialog {
                     leftPadding: 0
                     text: qsTr("Profil aktualisieren")
                     font.pixelSize: 13
-                    enabled: ViewModel.selectedCameraName !== ""
+                    enabled: ViewModel.pendingCenterCamera !== ""
                     Accessible.role: Accessible.CheckBox
                     Accessible.name: text
                     Accessible.description: profileNote.text

@@ -77,6 +77,10 @@ ApplicationWindow {
             captureArea.videoItem.clearFrame();
             root.hasFirstFrame = false;
         }
+
+        function onPendingCenterLost() {
+            screenshotToast.show(qsTr("Messung verworfen: andere Kamera oder Auflösung gewählt"));
+        }
     }
 
     WindowBackground {
@@ -282,13 +286,7 @@ ApplicationWindow {
 
         objectName: "centerDialog"
         onAccepted: {
-            ViewModel.acceptPendingCenter();
-            if (centerDialog.updateProfile && ViewModel.selectedCameraName !== "") {
-                // Last, so that the profile carries the new centre.
-                ViewModel.profileRestoreOnConnect = true;
-                ViewModel.profileRestoreCalibration = true;
-                ViewModel.saveCameraProfile();
-            }
+            ViewModel.acceptPendingCenter(centerDialog.updateProfile);
             const reason = centerDialog.standardButton(Dialog.Yes).focusReason;
             leftPanel.switchToCamera();
             leftPanel.focusTab(reason);

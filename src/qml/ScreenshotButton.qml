@@ -34,7 +34,7 @@ OverlayButton {
             return;
         }
         const started = target.grabToImage(result => {
-            const saved = result.saveToFile(path);
+            const saved = ViewModel.saveScreenshot(result.image, path);
             if (saved)
                 ViewModel.noteScreenshotSaved(path);
             finish(saved);

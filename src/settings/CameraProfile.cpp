@@ -83,20 +83,6 @@ void restoreValues(const CameraProfile &profile, CameraSettings &camera)
     }
 }
 
-bool restoreCenter(const CameraProfile &profile, CameraSettings &camera)
-{
-    const ResolutionCalibration stored =
-        profile.perResolution.value(resolutionKey(resolutionOf(camera)));
-    if (stored.calibrated || (stored.centerX > 0 && stored.centerY > 0)) {
-        camera.centerX = stored.centerX;
-        camera.centerY = stored.centerY;
-    } else {
-        camera.centerX = camera.cameraResolutionX * 0.5;
-        camera.centerY = camera.cameraResolutionY * 0.5;
-    }
-    return stored.calibrated;
-}
-
 QJsonObject toJson(const CameraProfile &profile)
 {
     return {{"restoreOnConnect"_L1, profile.restoreOnConnect},

@@ -49,9 +49,6 @@ QString resolutionKey(const QSize &resolution);
 void takeIntoProfile(CameraProfile &profile, const CameraSettings &camera, bool gainSupported);
 /// Gives the values, and the resolution if the profile holds one, to `camera`. Not the centre.
 void restoreValues(const CameraProfile &profile, CameraSettings &camera);
-/// Gives the centre for the resolution of `camera`: the stored one, else the middle of the frame.
-/// Returns whether it comes from a calibration.
-bool restoreCenter(const CameraProfile &profile, CameraSettings &camera);
 
 QJsonObject toJson(const CameraProfile &profile);
 /// A profile from before centres were kept per resolution keeps its centre, under its resolution.

@@ -8,6 +8,23 @@
 
 namespace meridax {
 
+namespace {
+
+/// Nothing is known to be measured yet: the centre is the middle of the picture.
+CenterState centerAtStart(const CameraSettings &camera)
+{
+    CenterState state;
+    const QSize resolution(camera.cameraResolutionX, camera.cameraResolutionY);
+    state.place = {camera.cameraId, resolution};
+    state.center.position = resolution.isEmpty()
+                                ? QPointF(camera.centerX, camera.centerY)
+                                : QPointF(resolution.width() * 0.5, resolution.height() * 0.5);
+    state.locked = camera.locked;
+    return state;
+}
+
+} // namespace
+
 CameraViewModel *CameraViewModel::create(QQmlEngine *engine, QJSEngine * /*scriptEngine*/)
 {
     if (engine && !qmlEngine())
@@ -30,13 +47,8 @@ CameraViewModel::CameraViewModel()
         m_settings.collapsedSections.clear();
     // A centre in pixels counts only for the camera and resolution it was measured with, which
     // nobody knows before the camera runs. The lock is the user's own and stays.
-    CameraSettings &camera = m_settings.camera;
-    camera.calibrated = false;
-    m_locked = camera.locked;
-    if (camera.cameraResolutionX > 0 && camera.cameraResolutionY > 0) {
-        camera.centerX = camera.cameraResolutionX * 0.5;
-        camera.centerY = camera.cameraResolutionY * 0.5;
-    }
+    m_center = centerAtStart(m_settings.camera);
+    decideCenter(CenterStop());
 
     connect(&m_saveTimer, &QTimer::timeout, this, &CameraViewModel::writeSettings);
     connectController();
@@ -113,12 +125,18 @@ void CameraViewModel::onRunningChanged()
     // The signal may be older than the controller's state.
     if (running()) {
         onStatus({});
-        fulfilPendingRestore();
+        const bool restores = m_center.awaitsCamera;
+        decideCenter(CenterRun());
+        if (restores)
+            m_saveTimer.start();
         return;
     }
+    // Without an end the controller would go on measuring at the next start, unseen.
+    if (m_calibrationActive)
+        endCalibration();
     storeCalibrationActive(false);
     setFocusTapModeActive(false);
-    m_calibrationRestorePending = false;
+    decideCenter(CenterStop());
     m_settings.camera.focusRangeMin = 0;
     m_settings.camera.focusRangeMax = 0;
     emit cameraSettingsChanged();

@@ -7,10 +7,13 @@
 #include "server/ServerConfig.h"
 #include "server/SupportApiClient.h"
 #include "settings/AppSettings.h"
+#include "settings/CenterState.h"
 #include "settings/FocusPreset.h"
 #include "viewmodel/CameraList.h"
 
 #include <QColor>
+#include <QHash>
+#include <QImage>
 #include <QMediaDevices>
 #include <QObject>
 #include <QPointF>
@@ -123,6 +126,8 @@ class CameraViewModel : public QObject
     Q_PROPERTY(double pendingCenterX READ pendingCenterX NOTIFY pendingCenterChanged)
     Q_PROPERTY(double pendingCenterY READ pendingCenterY NOTIFY pendingCenterChanged)
     Q_PROPERTY(bool hasPendingCenter READ hasPendingCenter NOTIFY pendingCenterChanged)
+    Q_PROPERTY(QString pendingCenterCamera READ pendingCenterCamera NOTIFY pendingCenterChanged)
+    Q_PROPERTY(bool pendingCenterElsewhere READ pendingCenterElsewhere NOTIFY pendingCenterChanged)
     Q_PROPERTY(double fitRadius READ fitRadius NOTIFY fitResultChanged)
     Q_PROPERTY(double fitStdDev READ fitStdDev NOTIFY fitResultChanged)
     Q_PROPERTY(int fitPointCount READ fitPointCount NOTIFY fitResultChanged)
@@ -159,10 +164,8 @@ class CameraViewModel : public QObject
     Q_PROPERTY(int resolutionMinY READ resolutionMinY NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int resolutionMaxX READ resolutionMaxX NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int resolutionMaxY READ resolutionMaxY NOTIFY cameraSettingsChanged)
-    MERIDAX_SETTING(int, resolutionX, setResolutionX, camera.cameraResolutionX,
-                    cameraSettingsChanged)
-    MERIDAX_SETTING(int, resolutionY, setResolutionY, camera.cameraResolutionY,
-                    cameraSettingsChanged)
+    Q_PROPERTY(int resolutionX READ resolutionX WRITE setResolutionX NOTIFY cameraSettingsChanged)
+    Q_PROPERTY(int resolutionY READ resolutionY WRITE setResolutionY NOTIFY cameraSettingsChanged)
     MERIDAX_SETTING(int, focusValue, setFocusValue, camera.focusValue, cameraSettingsChanged)
     Q_PROPERTY(int exposure READ exposure WRITE setExposure NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int brightness READ brightness WRITE setBrightness NOTIFY cameraSettingsChanged)
@@ -321,9 +324,14 @@ public:
     bool blobInSector() const { return m_blobInSector; }
     double blobSectorAlignment() const { return m_blobSectorAlignment; }
     QVariantList measurements() const { return m_measurements; }
-    double pendingCenterX() const { return m_pendingCenter.x(); }
-    double pendingCenterY() const { return m_pendingCenter.y(); }
+    double pendingCenterX() const { return m_pending.center.x(); }
+    double pendingCenterY() const { return m_pending.center.y(); }
     bool hasPendingCenter() const { return m_hasPendingCenter; }
+    /// The camera and the resolution the pending centre was measured with, as text; empty without
+    /// a camera.
+    QString pendingCenterCamera() const;
+    /// The pending centre was measured with another camera or resolution than the selected one.
+    bool pendingCenterElsewhere() const;
     double fitRadius() const { return m_fitRadius; }
     double fitStdDev() const { return m_fitStdDev; }
     int fitPointCount() const { return m_fitPointCount; }
@@ -339,8 +347,8 @@ public:
     int measureFramesTotal() const { return m_measureFramesTotal; }
     bool measureInProgress() const { return m_measureFramesTotal > 0; }
     double measureProgressRatio() const;
-    bool calibrated() const { return m_calibrated; }
-    bool locked() const { return m_locked; }
+    bool calibrated() const { return m_settings.camera.calibrated; }
+    bool locked() const { return m_settings.camera.locked; }
     int calibrationPositions() const { return m_settings.calibrationPositions; }
     void setCalibrationPositions(int positions);
     int calibrationMeasureFrames() const { return m_settings.calibrationMeasureFrames; }
@@ -350,6 +358,10 @@ public:
     int selectedCameraIndex() const { return m_selectedCameraIndex; }
     void setSelectedCameraIndex(int index);
     QString selectedCameraName() const { return m_cameraNames.value(m_selectedCameraIndex); }
+    int resolutionX() const { return m_settings.camera.cameraResolutionX; }
+    void setResolutionX(int width) { setResolution({width, resolutionY()}); }
+    int resolutionY() const { return m_settings.camera.cameraResolutionY; }
+    void setResolutionY(int height) { setResolution({resolutionX(), height}); }
     int focusRangeMin() const { return m_settings.camera.focusRangeMin; }
     int focusRangeMax() const { return m_settings.camera.focusRangeMax; }
     QStringList resolutionOptions() const;
@@ -380,9 +392,9 @@ public:
     bool profileCalibrated() const { return profileCalibration().calibrated; }
 
     double centerX() const { return m_settings.camera.centerX; }
-    void setCenterX(double x) { storeCenter(m_settings.camera.centerX, x); }
+    void setCenterX(double x) { setCenter({x, centerY()}); }
     double centerY() const { return m_settings.camera.centerY; }
-    void setCenterY(double y) { storeCenter(m_settings.camera.centerY, y); }
+    void setCenterY(double y) { setCenter({centerX(), y}); }
 
     QString language() const { return m_settings.language; }
     void setLanguage(const QString &language);
@@ -458,6 +470,8 @@ public slots:
     /// The path for the next screenshot, whose folder exists then; empty on failure.
     QString nextScreenshotFilePath() const;
     void noteScreenshotSaved(const QString &fullPath) const;
+    /// Writes the image as a PNG file, wholly or not at all.
+    bool saveScreenshot(const QImage &image, const QString &fullPath) const;
     /// Whether the section `key` was left closed, `defaultCollapsed` when nothing is remembered.
     bool sectionCollapsed(const QString &key, bool defaultCollapsed) const;
     void setSectionCollapsed(const QString &key, bool collapsed);
@@ -517,8 +531,10 @@ public slots:
     void startCalibration();
     void measurePosition();
     void cancelCalibration();
-    /// Makes the pending centre the image centre and sets the lock; nothing without one.
-    void acceptPendingCenter();
+    /// Makes the pending centre the image centre and sets the lock; nothing without one. With
+    /// `intoProfile` the profile of its camera takes it, to be restored. A centre of another camera
+    /// or resolution than the selected one waits until that is selected again.
+    void acceptPendingCenter(bool intoProfile = false);
     void discardPendingCenter();
     void unlockCalibration();
     void lockCalibration();
@@ -541,6 +557,8 @@ signals:
     void guideStateChanged();
     void measurementsChanged();
     void pendingCenterChanged();
+    /// The pending centre went because the user chose another camera or resolution.
+    void pendingCenterLost();
     void fitResultChanged();
     void measureProgressChanged();
     void calibratedChanged();
@@ -592,16 +610,17 @@ private:
     }
 
     void storeControl(int &field, int value, const ControlRange &range);
-    void storeCenter(double &coordinate, double value);
     bool hasFocusPreset(int index) const;
     void clearFocusPresets();
     void compareWithFocusPreset();
 
-    void storeCalibrated(bool calibrated);
-    void storeCalibratedAndLocked(bool both);
-    void storeLocked(bool locked);
+    /// What the controller reports of a calibration, unless that has been given up since.
+    template <typename... Arguments, typename Reaction>
+    void onCalibration(void (CameraController::*signal)(Arguments...), Reaction reaction);
+    void endCalibration();
     void storeCalibrationActive(bool active);
     void storeMeasureProgress(int framesDone, int framesTotal);
+    void storePendingCenter(const QPointF &center);
     void changeLock(bool locked);
 
     QList<CameraFormatInfo> selectedFormats() const;
@@ -615,16 +634,22 @@ private:
     void takeOverFrom(const QString &node, const QString &id);
     void selectFormat(const CameraFormatInfo &format);
     void snapToNearestFormat();
-    void applyResolutionChange(const QSize &oldSize, const QSize &newSize);
     void resetCameraValues();
-    void dropPendingCenter();
+
+    CenterPlace place() const;
+    void decideCenter(const CenterEvent &event);
+    void setCenter(const QPointF &center);
+    void setResolution(const QSize &size);
+    void moveCenter(bool cameraChosen);
+    void dropPendingCenterOfElsewhere();
 
     ResolutionCalibration profileCalibration() const;
+    CameraSettings storableSettings() const;
+    bool takesGain(const QString &cameraId) const;
     template <typename Change>
     void changeProfile(Change change);
     void restoreProfile();
-    void forgetRestoredProfile();
-    void fulfilPendingRestore();
+    void storePendingInProfile();
 
     void onRunningChanged();
     void storeFocusSweep(bool active);
@@ -694,8 +719,16 @@ private:
     bool m_blobInSector = false;
     double m_blobSectorAlignment = 0.0;
     QVariantList m_measurements;
-    QPointF m_pendingCenter;
+    /// A measured centre that waits for the user's decision, and what it was measured with.
+    struct PendingCenter
+    {
+        QPointF center;
+        CameraSettings camera;
+    };
+    PendingCenter m_pending;
     bool m_hasPendingCenter = false;
+    // A calibration was given up; what it still reports is late.
+    bool m_calibrationGivenUp = false;
     double m_fitRadius = 0.0;
     double m_fitStdDev = 0.0;
     int m_fitPointCount = 0;
@@ -705,13 +738,12 @@ private:
     double m_dominantAmp = 0.0;
     int m_measureFramesDone = 0;
     int m_measureFramesTotal = 0;
-    // Live flags; the settings hold their stored twins.
-    bool m_calibrated = false;
-    bool m_locked = false;
-    bool m_calibrationRestorePending = false;
-    // What the selected camera has already got back from its profile.
+    // Decides about centre, calibration and lock; the settings hold what came of it.
+    CenterState m_center;
+    // The selected camera has already got its values back from its profile.
     bool m_profileRestoredOnce = false;
-    QString m_lastRestoredResolutionKey;
+    // Whether a camera has a gain, by id. Outlives the capabilities, which end with the stream.
+    QHash<QString, bool> m_gainSupport;
 
     QTimer m_saveTimer;
     QTranslator m_translator;

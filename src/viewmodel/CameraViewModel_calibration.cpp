@@ -4,11 +4,23 @@
 
 #include "measurement/FitQuality.h"
 
-#include <QDebug>
+#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace meridax {
+
+// The signals come queued, so those of a calibration that was cancelled or whose camera stopped may
+// still be on their way.
+template <typename... Arguments, typename Reaction>
+void CameraViewModel::onCalibration(void (CameraController::*signal)(Arguments...),
+                                    Reaction reaction)
+{
+    connect(&m_controller, signal, this, [this, reaction](const Arguments &...arguments) {
+        if (!m_calibrationGivenUp)
+            reaction(arguments...);
+    });
+}
 
 void CameraViewModel::connectCalibration()
 {
@@ -16,39 +28,38 @@ void CameraViewModel::connectCalibration()
         m_blobCount = count;
         emit blobCountChanged();
     });
-    connect(&m_controller, &CameraController::guideIndexChanged, this,
-            [this](int currentIndex, int total) {
-                m_currentGuideIndex = currentIndex;
-                m_totalGuidePositions = total;
-                emit guideStateChanged();
-            });
-    connect(&m_controller, &CameraController::blobInSectorChanged, this, [this](bool inSector) {
+    onCalibration(&CameraController::guideIndexChanged, [this](int currentIndex, int total) {
+        m_currentGuideIndex = currentIndex;
+        m_totalGuidePositions = total;
+        emit guideStateChanged();
+    });
+    onCalibration(&CameraController::blobInSectorChanged, [this](bool inSector) {
         m_blobInSector = inSector;
         emit guideStateChanged();
     });
-    connect(&m_controller, &CameraController::blobSectorAlignmentChanged, this,
-            [this](double alignment) {
-                m_blobSectorAlignment = alignment;
-                emit guideStateChanged();
-            });
-    connect(&m_controller, &CameraController::measureProgressChanged, this,
-            &CameraViewModel::storeMeasureProgress);
-    connect(&m_controller, &CameraController::blobMeasurementCaptured, this,
-            [this](const QPointF &point, int number) {
-                m_measurements.append(QVariantMap{{QStringLiteral("step"), number + 1},
-                                                  {QStringLiteral("x"), point.x()},
-                                                  {QStringLiteral("y"), point.y()}});
-                emit measurementsChanged();
-            });
-    connect(&m_controller, &CameraController::calibrationFitDetails, this,
-            [this](int pointCount, double radius, double stdDev) {
-                m_fitPointCount = pointCount;
-                m_fitRadius = radius;
-                m_fitStdDev = stdDev;
-                emit fitResultChanged();
-            });
-    connect(
-        &m_controller, &CameraController::calibrationQualityDetails, this,
+    onCalibration(&CameraController::blobSectorAlignmentChanged, [this](double alignment) {
+        m_blobSectorAlignment = alignment;
+        emit guideStateChanged();
+    });
+    onCalibration(
+        &CameraController::measureProgressChanged,
+        [this](int framesDone, int framesTotal) { storeMeasureProgress(framesDone, framesTotal); });
+    onCalibration(&CameraController::blobMeasurementCaptured,
+                  [this](const QPointF &point, int number) {
+                      m_measurements.append(QVariantMap{{QStringLiteral("step"), number + 1},
+                                                        {QStringLiteral("x"), point.x()},
+                                                        {QStringLiteral("y"), point.y()}});
+                      emit measurementsChanged();
+                  });
+    onCalibration(&CameraController::calibrationFitDetails,
+                  [this](int pointCount, double radius, double stdDev) {
+                      m_fitPointCount = pointCount;
+                      m_fitRadius = radius;
+                      m_fitStdDev = stdDev;
+                      emit fitResultChanged();
+                  });
+    onCalibration(
+        &CameraController::calibrationQualityDetails,
         [this](double centerSigma, double coverageGapDeg, int dominantOrder, double dominantAmp) {
             m_centerSigma = centerSigma;
             m_coverageGapDeg = coverageGapDeg;
@@ -56,13 +67,10 @@ void CameraViewModel::connectCalibration()
             m_dominantAmp = dominantAmp;
             emit fitResultChanged();
         });
-    connect(&m_controller, &CameraController::calibrationCompleted, this,
-            [this](const QPointF &center) {
-                storeCalibrationActive(false);
-                m_pendingCenter = center;
-                m_hasPendingCenter = true;
-                emit pendingCenterChanged();
-            });
+    onCalibration(&CameraController::calibrationCompleted, [this](const QPointF &center) {
+        storeCalibrationActive(false);
+        storePendingCenter(center);
+    });
 }
 
 void CameraViewModel::storeMeasureProgress(int framesDone, int framesTotal)
@@ -78,6 +86,10 @@ void CameraViewModel::startCalibration()
 {
     // No sharpness is measured during a calibration: a sweep would only move the lens.
     setFocusTapModeActive(false);
+    if (m_calibrationActive)
+        endCalibration();
+    // What the one before still has on its way is none of this one's.
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     m_measurements.clear();
     emit measurementsChanged();
     discardPendingCenter();
@@ -99,83 +111,18 @@ void CameraViewModel::measurePosition()
 
 void CameraViewModel::cancelCalibration()
 {
-    m_controller.cancelCalibration();
+    endCalibration();
     storeCalibrationActive(false);
 }
 
-void CameraViewModel::acceptPendingCenter()
+void CameraViewModel::endCalibration()
 {
-    if (!m_hasPendingCenter)
+    m_controller.cancelCalibration();
+    if (!m_calibrationActive)
         return;
-    CameraSettings &camera = m_settings.camera;
-    qDebug() << "[Calibration] Akzeptiert: Center=(" << m_pendingCenter.x() << ","
-             << m_pendingCenter.y() << "), alter Offset=(" << camera.centerOffsetX << ","
-             << camera.centerOffsetY << ") wird auf 0 gesetzt";
-    camera.centerOffsetX = 0.0;
-    camera.centerOffsetY = 0.0;
-    camera.centerOffsetEnabled = false;
-    camera.centerX = m_pendingCenter.x();
-    camera.centerY = m_pendingCenter.y();
-    m_calibrated = camera.calibrated = true;
-    m_locked = camera.locked = true;
-    m_hasPendingCenter = false;
-    m_controller.updateSettings(m_settings);
-    emit overlaySettingsChanged();
-    emit pendingCenterChanged();
-    emit calibratedChanged();
-    emit lockStateChanged();
-    m_saveTimer.start();
-}
-
-void CameraViewModel::discardPendingCenter()
-{
-    m_hasPendingCenter = false;
-    emit pendingCenterChanged();
-}
-
-void CameraViewModel::dropPendingCenter()
-{
-    // It was measured in the pixels of another camera or resolution.
-    if (m_hasPendingCenter)
-        discardPendingCenter();
-}
-
-void CameraViewModel::lockCalibration()
-{
-    changeLock(true);
-}
-
-void CameraViewModel::unlockCalibration()
-{
-    changeLock(false);
-}
-
-void CameraViewModel::changeLock(bool locked)
-{
-    if (m_locked == locked)
-        return;
-    storeLocked(locked);
-    m_saveTimer.start();
-}
-
-void CameraViewModel::storeCalibrated(bool calibrated)
-{
-    m_calibrated = m_settings.camera.calibrated = calibrated;
-    emit calibratedChanged();
-}
-
-void CameraViewModel::storeCalibratedAndLocked(bool both)
-{
-    m_calibrated = m_settings.camera.calibrated = both;
-    m_locked = m_settings.camera.locked = both;
-    emit calibratedChanged();
-    emit lockStateChanged();
-}
-
-void CameraViewModel::storeLocked(bool locked)
-{
-    m_locked = m_settings.camera.locked = locked;
-    emit lockStateChanged();
+    // The controller says nothing more of it, so what is late stands in the queue before this end.
+    m_calibrationGivenUp = true;
+    QMetaObject::invokeMethod(this, [this] { m_calibrationGivenUp = false; }, Qt::QueuedConnection);
 }
 
 void CameraViewModel::storeCalibrationActive(bool active)

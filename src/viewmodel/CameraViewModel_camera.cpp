@@ -19,7 +19,6 @@ constexpr ControlRange fallbackExposureRange{.min = -6, .max = 6, .supported = t
 
 void CameraViewModel::startCamera()
 {
-    m_calibrationRestorePending = false;
     restoreProfile();
     m_profileRestoredOnce = true;
     m_controller.updateSettings(m_settings);
@@ -44,15 +43,21 @@ void CameraViewModel::refreshCameras()
     }
 
     const QString previousId = m_settings.camera.cameraId;
-    m_selectedCameraIndex =
-        rememberedCameraIndex(m_cameras, previousId, m_settings.camera.cameraName);
-    snapToNearestFormat();
+    // A centre that waits for its decision calls its camera back.
+    const auto isAwaited = [this](const CameraDeviceInfo &camera) {
+        return camera.id == m_pending.camera.cameraId;
+    };
+    const bool back = m_hasPendingCenter && std::ranges::any_of(m_cameras, isAwaited);
+    const CameraSettings &wanted = back ? m_pending.camera : m_settings.camera;
+    m_selectedCameraIndex = rememberedCameraIndex(m_cameras, wanted.cameraId, wanted.cameraName);
     // Without a device the record keeps the camera that was last there.
     if (hasSelectedCamera())
         storeSelectedCamera();
+    snapToNearestFormat();
     const QString &newId = m_settings.camera.cameraId;
     if (!previousId.isEmpty() && !newId.isEmpty() && previousId != newId)
         resetCameraValues();
+    moveCenter(false);
     emit cameraListChanged();
     emit cameraSettingsChanged();
     // What the profile holds is told for the camera and the resolution selected now.
@@ -67,11 +72,13 @@ void CameraViewModel::setSelectedCameraIndex(int index)
     m_selectedCameraIndex = index;
     storeSelectedCamera();
     if (!previousId.isEmpty() && previousId != m_settings.camera.cameraId) {
-        forgetRestoredProfile();
+        m_profileRestoredOnce = false;
         resetCameraValues();
         clearFocusPresets();
     }
     snapToNearestFormat();
+    moveCenter(true);
+    dropPendingCenterOfElsewhere();
     m_controller.updateSettings(m_settings);
     emit cameraListChanged();
     emit cameraSettingsChanged();
@@ -85,6 +92,8 @@ void CameraViewModel::setSelectedResolutionIndex(int index)
     if (index < 0 || index >= formats.size())
         return;
     selectFormat(formats.at(index));
+    moveCenter(false);
+    dropPendingCenterOfElsewhere();
     settingsChanged(&CameraViewModel::cameraSettingsChanged);
     emit profileSettingsChanged();
 }
@@ -135,17 +144,21 @@ void CameraViewModel::storeSelectedCamera()
 
 void CameraViewModel::selectFormat(const CameraFormatInfo &format)
 {
-    const QSize oldSize = resolution();
     m_settings.camera.cameraResolutionX = format.width;
     m_settings.camera.cameraResolutionY = format.height;
-    applyResolutionChange(oldSize, resolution());
 }
 
 void CameraViewModel::snapToNearestFormat()
 {
-    const int index = selectedResolutionIndex();
+    const CameraSettings &measuredWith = m_pending.camera;
+    const bool awaited = m_hasPendingCenter && measuredWith.cameraId == m_settings.camera.cameraId;
+    const QSize wanted = awaited
+                             ? QSize(measuredWith.cameraResolutionX, measuredWith.cameraResolutionY)
+                             : resolution();
+    const QList<CameraFormatInfo> formats = selectedFormats();
+    const int index = nearestFormatIndex(formats, wanted);
     if (index >= 0)
-        selectFormat(selectedFormats().at(index));
+        selectFormat(formats.at(index));
 }
 
 void CameraViewModel::resetCameraValues()
@@ -156,12 +169,7 @@ void CameraViewModel::resetCameraValues()
     camera.brightness = 0;
     camera.saturation = 50;
     camera.contrast = 50;
-    // The gain deliberately stays.
-    dropPendingCenter();
-    if (m_calibrated)
-        storeCalibrated(false);
-    if (m_locked)
-        storeLocked(false);
+    // The gain deliberately stays; centre and lock are moveCenter()'s.
 }
 
 void CameraViewModel::storeControl(int &field, int value, const ControlRange &range)
@@ -208,6 +216,7 @@ void CameraViewModel::onCapabilitiesDetected(const CameraCapabilities &caps)
                       << "  gain.supported=" << caps.gain.supported
                       << "  exposure.supported=" << caps.exposure.supported;
     m_capabilities = caps;
+    m_gainSupport.insert(m_settings.camera.cameraId, caps.gain.supported);
     migrateExposure();
     emit cameraCapabilitiesChanged();
 }

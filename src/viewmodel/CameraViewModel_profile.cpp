@@ -45,9 +45,44 @@ void CameraViewModel::setProfileRestoreCalibration(bool restore)
 
 void CameraViewModel::saveCameraProfile()
 {
-    changeProfile([&](CameraProfile &profile) {
-        takeIntoProfile(profile, m_settings.camera, m_capabilities.gain.supported);
-    });
+    const CameraSettings settings = storableSettings();
+    const bool takesGain = this->takesGain(settings.cameraId);
+    changeProfile([&](CameraProfile &profile) { takeIntoProfile(profile, settings, takesGain); });
+}
+
+/// The accepted centre with the values it was measured with, to be restored.
+void CameraViewModel::storePendingInProfile()
+{
+    CameraSettings settings = pendingCenterElsewhere() ? m_pending.camera : m_settings.camera;
+    settings.centerX = m_pending.center.x();
+    settings.centerY = m_pending.center.y();
+    settings.calibrated = true;
+    if (settings.cameraId.isEmpty())
+        return;
+    const bool takesGain = this->takesGain(settings.cameraId);
+    CameraProfile &profile = m_settings.cameraProfiles[settings.cameraId];
+    takeIntoProfile(profile, settings, takesGain);
+    profile.restoreOnConnect = true;
+    profile.restoreCalibration = true;
+    emit profileSettingsChanged();
+}
+
+/// The present settings with a centre that a profile may hold.
+CameraSettings CameraViewModel::storableSettings() const
+{
+    const ResolutionCalibration center = storableCenter(m_center, profileCalibration());
+    CameraSettings settings = m_settings.camera;
+    settings.centerX = center.centerX;
+    settings.centerY = center.centerY;
+    settings.calibrated = center.calibrated;
+    return settings;
+}
+
+/// A stopped camera tells no capabilities: what it told last counts. Before that only a new profile
+/// takes the gain, which may be another camera's.
+bool CameraViewModel::takesGain(const QString &cameraId) const
+{
+    return m_gainSupport.value(cameraId, !m_settings.cameraProfiles.contains(cameraId));
 }
 
 void CameraViewModel::clearCameraProfile()
@@ -64,6 +99,14 @@ void CameraViewModel::changeProfile(Change change)
     const QString &id = m_settings.camera.cameraId;
     if (id.isEmpty())
         return;
+    if (!m_settings.cameraProfiles.contains(id)) {
+        // What is set now, never the values of an empty record; the mere middle is no centre.
+        CameraSettings settings = storableSettings();
+        if (m_center.center.origin == CenterOrigin::Middle)
+            settings.centerX = settings.centerY = 0.0;
+        const bool takesGain = this->takesGain(id);
+        takeIntoProfile(m_settings.cameraProfiles[id], settings, takesGain);
+    }
     change(m_settings.cameraProfiles[id]);
     emit profileSettingsChanged();
     m_saveTimer.start();
@@ -74,36 +117,21 @@ void CameraViewModel::changeProfile(Change change)
 void CameraViewModel::restoreProfile()
 {
     const CameraProfile profile = profileOf(m_settings);
-    if (m_settings.camera.cameraId.isEmpty() || !profile.restoreOnConnect)
+    if (m_settings.camera.cameraId.isEmpty() || !profile.restoreOnConnect) {
+        decideCenter(CenterStart());
         return;
-    if (!m_profileRestoredOnce)
+    }
+    const CenterState before = m_center;
+    if (!m_profileRestoredOnce) {
         restoreValues(profile, m_settings.camera);
-
-    const QString key = resolutionKey(resolution());
-    if (key == m_lastRestoredResolutionKey)
+        moveCenter(false);
+    }
+    decideCenter(CenterStart{profileCalibration(), profile.restoreCalibration});
+    if (m_center == before)
         return;
-    if (restoreCenter(profile, m_settings.camera))
-        m_calibrationRestorePending = profile.restoreCalibration;
-    m_lastRestoredResolutionKey = key;
     emit cameraSettingsChanged();
     emit overlaySettingsChanged();
     emit profileSettingsChanged();
-}
-
-void CameraViewModel::forgetRestoredProfile()
-{
-    m_profileRestoredOnce = false;
-    m_lastRestoredResolutionKey.clear();
-}
-
-// Only a camera that runs makes a restored calibration valid.
-void CameraViewModel::fulfilPendingRestore()
-{
-    if (!m_calibrationRestorePending)
-        return;
-    m_calibrationRestorePending = false;
-    storeCalibratedAndLocked(true);
-    m_saveTimer.start();
 }
 
 } // namespace meridax

@@ -1,4 +1,4 @@
-// Screenshots: where they go and the one without the overlay.
+// Screenshots: where they go, how they are written, and the one without the overlay.
 
 #include "viewmodel/CameraViewModel.h"
 
@@ -38,16 +38,20 @@ QString CameraViewModel::captureScreenshot() const
         return {};
     }
     QString path = nextScreenshotFilePath(); // not const: it is moved out
-    if (path.isEmpty())
+    if (path.isEmpty() || !saveScreenshot(frame, path))
         return {};
-    // Nothing half-written stays behind on a full disk.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !frame.save(&file, "PNG") || !file.commit()) {
-        qWarning() << "Screenshot: Speichern fehlgeschlagen:" << path;
-        return {};
-    }
     noteScreenshotSaved(path);
     return path;
+}
+
+bool CameraViewModel::saveScreenshot(const QImage &image, const QString &fullPath) const
+{
+    // Nothing half-written stays behind on a full disk.
+    QSaveFile file(fullPath);
+    if (file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit())
+        return true;
+    qWarning() << "Screenshot: Speichern fehlgeschlagen:" << fullPath;
+    return false;
 }
 
 } // namespace meridax

@@ -57,6 +57,16 @@ inline void prepareProcess()
     const QMediaDevices devices;
 }
 
+/// Chooses the resolution whose text begins with `size`, such as "640 x 480".
+inline void choose(meridax::CameraViewModel &viewModel, const QString &size)
+{
+    const QStringList options = viewModel.resolutionOptions();
+    for (int i = 0; i < options.size(); ++i) {
+        if (options.at(i).startsWith(size + QLatin1Char(' ')))
+            viewModel.setSelectedResolutionIndex(i);
+    }
+}
+
 /// Runs the command line tool of the simulated camera.
 inline void simcam(const QStringList &arguments)
 {

@@ -134,6 +134,11 @@ private slots:
         viewModel.reset();
         QCOMPARE(loadSettings().camera.cameraId, "id");
         QCOMPARE(loadSettings().camera.cameraName, "Kamera");
+
+        viewModel = fixture::firstStart();
+        viewModel->setProfileRestoreOnConnect(true);
+        viewModel->saveCameraProfile();
+        QVERIFY(!viewModel->profileExists());
     }
 
     /// A value that is set can be read back, is notified once, and is no other property's.

@@ -3,6 +3,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+#include <thread>
+
 using namespace meridax;
 
 /// The calibration as the interface sees it; the controller's signals are given by hand.
@@ -45,6 +48,52 @@ private slots:
 
         emit controller().runningChanged(false);
         QVERIFY2(!m_viewModel->calibrationActive(), "the camera stopped");
+    }
+
+    /// The processing thread's signals are queued: what was on its way when the calibration ended
+    /// is none of the present state's.
+    void lateSignalsAreDropped_data()
+    {
+        QTest::addColumn<std::function<void()>>("end");
+        const auto row = [](const char *name, const std::function<void()> &end) {
+            QTest::newRow(name) << end;
+        };
+        row("cancelled", [this] { m_viewModel->cancelCalibration(); });
+        row("camera stopped", [this] { emit controller().runningChanged(false); });
+        row("started anew", [this] { m_viewModel->startCalibration(); });
+    }
+
+    void lateSignalsAreDropped()
+    {
+        QFETCH(std::function<void()>, end);
+        m_viewModel->startCalibration();
+        std::thread([this] {
+            emit controller().measureProgressChanged(2, 3);
+            emit controller().blobMeasurementCaptured(QPointF(1, 2), 0);
+            emit controller().blobInSectorChanged(true);
+            complete(QPointF(100, 50));
+        }).join();
+        end();
+        QCoreApplication::processEvents();
+        QVERIFY(!m_viewModel->hasPendingCenter());
+        QVERIFY(m_viewModel->measurements().isEmpty());
+        QVERIFY(!m_viewModel->measureInProgress());
+        QVERIFY(!m_viewModel->blobInSector());
+        QVERIFY(!m_viewModel->fitResultValid());
+
+        m_viewModel->startCalibration();
+        complete(QPointF(100, 50));
+        QVERIFY(m_viewModel->hasPendingCenter());
+    }
+
+    /// Otherwise the next start of the camera would go on measuring, unseen.
+    void aStopEndsTheControllersCalibration()
+    {
+        m_viewModel->startCalibration();
+        emit controller().runningChanged(false);
+        QSignalSpy progress(&controller(), &CameraController::measureProgressChanged);
+        controller().measurePosition();
+        QCOMPARE(progress.size(), 0);
     }
 
     void measurementsAndProgress()

@@ -13,7 +13,7 @@
 
 using namespace meridax;
 
-/// Screenshots without the overlay, and what has no camera to do with profiles.
+/// Screenshots without the overlay, and the writing of all.
 class TestCameraViewModelScreenshot : public QObject
 {
     Q_OBJECT
@@ -81,8 +81,16 @@ private slots:
         QCOMPARE(viewModel->nextScreenshotFilePath(), QString());
     }
 
+    void aFullDiskLeavesNothingBehind_data()
+    {
+        QTest::addColumn<bool>("withMarks");
+        QTest::newRow("bare") << false;
+        QTest::newRow("grabbed by the window") << true;
+    }
+
     void aFullDiskLeavesNothingBehind()
     {
+        QFETCH(bool, withMarks);
         const QTemporaryDir folder;
         const auto viewModel = withPath(folder.path());
         QImage frame(320, 240, QImage::Format_RGB888);
@@ -98,18 +106,11 @@ private slots:
         setrlimit(RLIMIT_FSIZE, &tight);
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(QStringLiteral("Speichern fehlgeschlagen:")));
-        const QString file = viewModel->captureScreenshot();
+        const bool saved = withMarks ? viewModel->saveScreenshot(frame, folder.filePath("bild.png"))
+                                     : !viewModel->captureScreenshot().isEmpty();
         setrlimit(RLIMIT_FSIZE, &before);
-        QCOMPARE(file, QString());
+        QVERIFY(!saved);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList());
-    }
-
-    void withoutACameraThereIsNoProfile()
-    {
-        const auto viewModel = fixture::firstStart();
-        viewModel->setProfileRestoreOnConnect(true);
-        viewModel->saveCameraProfile();
-        QVERIFY(!viewModel->profileExists());
     }
 };
 

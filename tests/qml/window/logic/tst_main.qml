@@ -232,25 +232,39 @@ TestCase {
         tryCompare(dialog, "visible", false);
     }
 
-    // Every other way to close discards, and the dialog comes again the next time.
-    function test_closingWithoutYesDiscards() {
+    // A whole calibration is too much to lose by a stray click.
+    function test_onlyNoDiscards() {
         open();
         const dialog = item("centerDialog");
         const before = ViewModel.centerX;
         const overlay = dialog.parent;
-        const ways = [
-            () => mouseClick(dialog.standardButton(Dialog.No)),
-            () => keyClick(Qt.Key_Escape),
-            () => mouseClick(overlay, 5, overlay.height - 5)
-        ];
-        for (const close of ways) {
+        for (let i = 0; i < 2; ++i) {
             finishCalibration(8, 0.1);
             tryCompare(dialog, "opened", true);
-            close();
+            keyClick(Qt.Key_Escape);
+            mouseClick(overlay, 5, overlay.height - 5);
+            verify(dialog.opened && ViewModel.hasPendingCenter);
+            mouseClick(dialog.standardButton(Dialog.No));
             tryCompare(dialog, "visible", false);
             compare(ViewModel.hasPendingCenter, false);
             compare(ViewModel.centerX, before);
         }
+    }
+
+    function test_lostCenterIsTold() {
+        open();
+        const dialog = item("centerDialog");
+        finishCalibration(8, 0.1);
+        tryCompare(dialog, "opened", true);
+        verify(!findChild(dialog.contentItem, "elsewhereNote").visible);
+        const width = ViewModel.resolutionX;
+        ViewModel.resolutionX = width + 1;
+        tryCompare(dialog, "visible", false);
+        const toast = item("screenshotToast");
+        tryCompare(toast, "visible", true);
+        compare(toast.text, "Messung verworfen: andere Kamera oder Auflösung gewählt");
+        verify(toast.implicitWidth <= toast.width, "not elided");
+        ViewModel.resolutionX = width;
     }
 
     function test_yesAcceptsAndShowsTheCameraTab() {
