@@ -1,5 +1,7 @@
 #include "settings/CenterState.h"
 
+#include <utility>
+
 namespace meridax {
 
 namespace {
@@ -126,6 +128,19 @@ void apply(CenterState &state, const CenterResized &event)
     const PlacedCenter known = state.elsewhere.value(keyOf(state.place));
     if (known.position == center.position)
         state.center = known;
+}
+
+void apply(CenterState &state, const CenterRenamed &event)
+{
+    const QString before = state.place.cameraId + QLatin1Char('@');
+    const QMap<QString, PlacedCenter> known = std::exchange(state.elsewhere, {});
+    for (auto center = known.begin(); center != known.end(); ++center) {
+        const QString &key = center.key();
+        const bool same = key.startsWith(before);
+        state.elsewhere.insert(
+            same ? event.cameraId + QLatin1Char('@') + key.sliced(before.size()) : key, *center);
+    }
+    state.place.cameraId = event.cameraId;
 }
 
 void apply(CenterState &state, const CenterLock &event)

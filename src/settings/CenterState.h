@@ -91,13 +91,18 @@ struct CenterResized
 {
     QSize resolution;
 };
+/// The selected camera is the same, but is known by another id from now on.
+struct CenterRenamed
+{
+    QString cameraId;
+};
 struct CenterLock
 {
     bool locked = false;
 };
 
 using CenterEvent = std::variant<CenterStart, CenterRun, CenterStop, CenterAccepted, CenterSet,
-                                 CenterMoved, CenterResized, CenterLock>;
+                                 CenterMoved, CenterResized, CenterRenamed, CenterLock>;
 
 /// What becomes of centre, calibration and lock.
 CenterState stateAfter(CenterState state, const CenterEvent &event);

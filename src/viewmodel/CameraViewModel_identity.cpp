@@ -72,6 +72,9 @@ void CameraViewModel::takeOverFrom(const QString &node, const QString &id)
     if (m_settings.cameraProfiles.contains(node) && !m_settings.cameraProfiles.contains(id))
         m_settings.cameraProfiles.insert(id, m_settings.cameraProfiles.take(node));
     m_settings.camera.cameraId = id;
+    decideCenter(CenterRenamed{id});
+    if (m_pending.camera.cameraId == node)
+        m_pending.camera.cameraId = id;
 }
 
 } // namespace meridax

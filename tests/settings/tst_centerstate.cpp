@@ -113,6 +113,9 @@ private slots:
         row("accepted for a place that is left", {moved(kOther), kAccept}, kMiddle, no, no, no);
         row("accepted for a place that comes back",
             {moved(kOther), kAccept, moved(kHere), kStart, kRun}, kMeasured, yes, yes, yes);
+        row("known by another id",
+            {kAccept, moved(kLargeHere), CenterRenamed{"c"}, moved({"c", kSmall}), kStart, kRun},
+            kMeasured, yes, yes, yes);
         row("resolution written", {kAccept, CenterResized{kLarge}}, kMeasured, no, no, no);
         row("resolution written and back",
             {kAccept, CenterResized{kLarge}, CenterResized{kSmall}, kStart, kRun}, kMeasured, yes,
