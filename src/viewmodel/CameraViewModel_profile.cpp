@@ -100,12 +100,9 @@ void CameraViewModel::changeProfile(Change change)
     if (id.isEmpty())
         return;
     if (!m_settings.cameraProfiles.contains(id)) {
-        // What is set now, never the values of an empty record; the mere middle is no centre.
-        CameraSettings settings = storableSettings();
-        if (m_center.center.origin == CenterOrigin::Middle)
-            settings.centerX = settings.centerY = 0.0;
+        // What is set now, never the values of an empty record.
         const bool takesGain = this->takesGain(id);
-        takeIntoProfile(m_settings.cameraProfiles[id], settings, takesGain);
+        takeIntoProfile(m_settings.cameraProfiles[id], storableSettings(), takesGain);
     }
     change(m_settings.cameraProfiles[id]);
     emit profileSettingsChanged();

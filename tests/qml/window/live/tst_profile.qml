@@ -34,13 +34,13 @@ TestCase {
 
         mouseClick(part("profileRestoreOnConnect"));
         verify(ViewModel.profileRestoreOnConnect && part("profileCenterLabel").visible);
-        compare(part("profileCenterLabel").text, "noch nicht gespeichert");
-        compare(part("profileCenterLabel").color, Theme.textDisabled);
+        compare(ViewModel.profileCenterX, ViewModel.centerX, "what is set now is stored");
 
         ViewModel.centerX = 320.456;
         ViewModel.centerY = 0;
         mouseClick(part("saveProfileButton"));
         compare(part("profileCenterLabel").text, "noch nicht gespeichert");
+        compare(part("profileCenterLabel").color, Theme.textDisabled);
         ViewModel.centerY = 240;
         compare(part("saveProfileButton").text, "Profil aktualisieren");
         mouseClick(part("saveProfileButton"));
