@@ -1,4 +1,5 @@
 #include "drive/Scene.h"
+#include "drive/SimulatedCamera.h"
 
 #include <QCoreApplication>
 #include <QGenericPlugin>
@@ -8,8 +9,21 @@
 
 namespace {
 
+/// Lets the camera hang, for longer than anyone waits, in a write of the program.
+void hangInAWrite(const Scene &scene)
+{
+    const SimulatedCamera camera(qEnvironmentVariable("SIMCAM_TOOL"));
+    camera.run({QStringLiteral("set"), QStringLiteral("control-hang=600")});
+    const auto calls = [&] {
+        return camera.run({QStringLiteral("get"), QStringLiteral("control-calls")});
+    };
+    const auto before = calls();
+    scene.viewModel().setProperty("brightness", 30);
+    waitFor(QStringLiteral("a write"), [&] { return calls() != before; });
+}
+
 /// Starts the camera, waits until its picture is in the window, and closes that.
-void streamAndClose()
+void streamAndClose(bool whileHanging)
 {
     const Scene scene;
     QMetaObject::invokeMethod(&scene.viewModel(), "startCamera");
@@ -17,6 +31,8 @@ void streamAndClose()
             [&] { return scene.window().property("hasFirstFrame").toBool(); });
     waitFor(QStringLiteral("a drawn window"),
             [&] { return !scene.window().grabWindow().isNull(); });
+    if (whileHanging)
+        hangInAWrite(scene);
     scene.window().close();
 }
 
@@ -29,13 +45,13 @@ class StreamAndClosePlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "StreamAndClosePlugin.json")
 
 public:
-    QObject *create(const QString &, const QString &) override
+    QObject *create(const QString &, const QString &specification) override
     {
         auto *const start = new QTimer(this);
         start->setSingleShot(true);
-        connect(start, &QTimer::timeout, this, [] {
+        connect(start, &QTimer::timeout, this, [specification] {
             try {
-                streamAndClose();
+                streamAndClose(specification == QLatin1String("hang"));
             } catch (const std::exception &error) {
                 std::fprintf(stderr, "Warning: %s\n", error.what());
                 QCoreApplication::exit(1);

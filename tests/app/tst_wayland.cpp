@@ -27,6 +27,15 @@ private slots:
         QCOMPARE(ProgramRun::savedGeometry(ProgramRun::readSettings()), saved);
         QCOMPARE(ProgramRun::readSettings()["windowMaximized"], maximized);
     }
+
+    void endsWhileTheCameraHangs()
+    {
+        ProgramRun::writeSettings({});
+        ProgramRun program(QStringLiteral("meridax-stream-and-close:hang"));
+        QVERIFY(program.endsWell());
+        QCOMPARE(program.complaints(), QByteArray());
+        QCOMPARE(ProgramRun::readSettings()["camera"].toObject()["brightness"].toInt(), 30);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestWayland)

@@ -48,6 +48,11 @@ TestCase {
     function test_startAndStop() {
         compare(item("startStopButton").text, "Stop");
         compare(item("connectionLabel").text, "Kamera verbunden");
+        ViewModel.controller.statusChanged("Kamera liefert kein Bild");
+        compare(item("connectionLabel").text, "Kamera liefert kein Bild");
+        compare(item("connectionLabel").color, Theme.text);
+        ViewModel.controller.statusChanged("");
+        compare(item("connectionLabel").text, "Kamera verbunden");
         compare(item("calibrationLabel").text, "Nicht kalibriert");
         verify(item("cameraLabel").text.startsWith(ViewModel.selectedCameraName + "  ("));
         verify(item("overlayCanvas").visible);
