@@ -59,11 +59,12 @@ std::uint64_t CameraController::writeControls(ControlRecord record)
 
 void CameraController::onControlsWritten(const ControlAnswer &answer)
 {
-    if (answer.number <= m_writesOfOthers)
+    // That a device which was pulled out does not answer will be told as its end.
+    if (answer.number <= m_writesOfOthers || deviceIsGone())
         return;
     noteAnswer(answer);
     // Calls into a camera that hangs would hang as well, and on this thread.
-    if (!answer.result.taken && !answer.result.noAnswer && !deviceIsGone()) {
+    if (!answer.result.taken && !answer.result.noAnswer) {
         if (m_controlOrder == ControlOrder::BackendFirst)
             setModesThroughQt(answer.record);
         setValuesThroughQt(answer.record);
