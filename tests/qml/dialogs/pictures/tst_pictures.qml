@@ -93,6 +93,9 @@ TestCase {
         feedback: () => {
             const dialog = shown("feedbackDialog");
             dialog.rating = 3;
+            const star = part(dialog, "star4");
+            mouseMove(star, star.width / 2, star.height / 2);
+            tryCompare(findChild(star, "toolTip"), "opened", true);
             return dialog;
         },
         feedbackSent: () => {
