@@ -60,7 +60,6 @@ qt_add_qml_module(meridax_module
         src/viewmodel/CameraViewModel_settings.cpp
         src/viewmodel/CameraViewModel_support.cpp
         src/viewmodel/CameraViewModel_update.cpp
-        src/viewmodel/ExposureMigration.h
         src/viewmodel/LanguageSwitch.cpp src/viewmodel/LanguageSwitch.h
         src/viewmodel/QtTexts.cpp src/viewmodel/QtTexts.h
         src/viewmodel/ScreenshotFile.cpp src/viewmodel/ScreenshotFile.h

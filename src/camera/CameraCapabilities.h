@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/ControlRange.h"
+#include "camera/ExposureScale.h"
 
 #include <QMetaType>
 #include <QStringList>
@@ -18,6 +19,7 @@ struct CameraCapabilities
     ControlRange gain;
     ControlRange gamma;
     ControlRange whiteBalance;
+    ExposureScale exposureScale = ExposureScale::Stops;
 
     bool operator==(const CameraCapabilities &) const = default;
 };

@@ -131,6 +131,7 @@ void CameraController::onCapabilitiesQueried(const CapabilityAnswer &answer)
 
 void CameraController::deliverCapabilities(const CameraCapabilities &caps)
 {
+    m_focusControl = caps.focus;
     emit cameraCapabilitiesDetected(caps);
     if (!caps.focus.supported || caps.focus.min >= caps.focus.max)
         return;

@@ -2,7 +2,7 @@
 
 namespace meridax {
 
-/// Range of one hardware control in the hardware's own units.
+/// Range of one hardware control in the unit of its backend, mostly the hardware's own.
 /// A control with `canAuto` is in automatic mode when its value is at or below `min`.
 struct ControlRange
 {

@@ -73,6 +73,12 @@ ControlWrite controlWrite(int value, const std::optional<ControlRange> &range)
     return {clampToRange(value, *range), false};
 }
 
+int firstManualValue(const ControlRange &range)
+{
+    const std::int64_t next = std::int64_t(range.min) + std::max(range.step, 1);
+    return range.canAuto ? clampToRange(to32Bits(next), range) : range.min;
+}
+
 std::string procAmpLogLine(std::uint32_t property, const ControlWrite &write, bool accepted,
                            const ControlReadBack &readBack)
 {

@@ -39,6 +39,9 @@ std::optional<ControlWrite> exposureWrite(int value, const std::optional<Control
 /// mode, else clamped but not snapped. Without a range the value goes out as it stands.
 ControlWrite controlWrite(int value, const std::optional<ControlRange> &range);
 
+/// The lowest value that is not automatic mode; the lower end where the control has none.
+int firstManualValue(const ControlRange &range);
+
 /// Value and mode that a device reports of a control after a write.
 struct ControlReadBack
 {

@@ -1,5 +1,6 @@
 #include "camera/V4l2Backend.h"
 #include "camera/DeviceChoice.h"
+#include "camera/ExposureScale.h"
 #include "camera/V4l2Control.h"
 
 #include <QDebug>
@@ -94,8 +95,14 @@ bool applyExposure(const V4l2Device &device, int value, ControlWrites writes)
     V4l2Control control(device, exposure);
     if (!control.exists())
         return false;
-    const std::optional<ControlWrite> write = exposureWrite(value, control.range());
-    return write && control.apply(*write, writes).taken;
+    const std::optional<ControlRange> units = control.range();
+    if (!units)
+        return false;
+    const ControlRange range = exposureRangeOfUnits(*units);
+    const int wanted = migratedExposure(value, range, ExposureScale::TenthsOfAStop);
+    ControlWrite write = *exposureWrite(wanted, range);
+    write.value = snapToStep(unitsOfExposure(write.value), *units);
+    return control.apply(write, writes).taken;
 }
 
 bool applyFocus(const V4l2Device &device, int value, ControlWrites writes)
@@ -160,6 +167,10 @@ bool V4l2Backend::queryCameraCapabilities(const CameraSettings &settings, Camera
         }
     };
     read(caps->exposure, exposure);
+    if (caps->exposure.supported) {
+        caps->exposure = exposureRangeOfUnits(caps->exposure);
+        caps->exposureScale = ExposureScale::TenthsOfAStop;
+    }
     read(caps->focus, focus);
     read(caps->brightness, brightness);
     read(caps->contrast, contrast);

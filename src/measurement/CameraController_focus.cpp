@@ -1,4 +1,5 @@
 #include "camera/CameraController.h"
+#include "camera/ControlRules.h"
 #include "measurement/FocusSession.h"
 #include "measurement/FocusSharpness.h"
 
@@ -39,7 +40,11 @@ void CameraController::startFocusSweep(double frameX, double frameY)
     }
     if (m_focus->active)
         return;
-    const FocusRange range{std::max(camera.focusRangeMin, 1), camera.focusRangeMax};
+    // A position that means automatic would let the camera move the lens, now or for good.
+    ControlRange control = m_focusControl;
+    control.min = camera.focusRangeMin;
+    control.max = camera.focusRangeMax;
+    const FocusRange range{std::max(firstManualValue(control), 1), camera.focusRangeMax};
     if (!range.usable()) {
         const bool pending = m_capabilitiesProbe != 0;
         qWarning().nospace() << "[FocusTap] Kein nutzbarer Fokusbereich (min=" << range.min
@@ -62,6 +67,9 @@ void CameraController::startFocusSweep(double frameX, double frameY)
                       << session.roiY.load() << ") half=" << session.halfSize.load() << " range=["
                       << range.min << ".." << range.max << "]";
     emit focusSweepStarted();
+    // A receiver may have cancelled.
+    if (!session.active)
+        return;
     moveFocusToNextPosition();
     session.timer.start();
 }
@@ -93,8 +101,8 @@ void CameraController::measureSharpness(const cv::Mat &frame, int greyConversion
 void CameraController::onFocusTick()
 {
     FocusSession &session = *m_focus;
-    // The start of the timer may have followed the end of the sweep: a receiver of the start
-    // cancelled.
+    // The start of the timer may have followed the end of the sweep: the first move failed, and a
+    // receiver of that cancelled.
     if (!session.active) {
         session.timer.stop();
         return;
@@ -146,10 +154,8 @@ void CameraController::continueFocusSweep()
 {
     if (!m_focus->active)
         return;
-    CameraSettings &sweep = m_focus->sweepSettings;
-    const int focusToReturnTo = sweep.focusValue;
-    sweep = m_settings.camera;
-    sweep.focusValue = focusToReturnTo;
+    // A focus chosen meanwhile is the one to return to.
+    m_focus->sweepSettings = m_settings.camera;
     moveFocusToNextPosition();
 }
 

@@ -50,7 +50,11 @@ public:
     /// A sweep over a usable range.
     explicit FocusSweep(FocusRange range);
 
-    int position() const { return m_positions[m_scores.size()]; }
+    /// Where to measure next; the sharpest position when the sweep is over.
+    int position() const
+    {
+        return m_scores.size() < m_positions.size() ? m_positions[m_scores.size()] : best();
+    }
     Next addScore(double sharpness);
     /// Scores so far; the fine pass counts from 12.
     int measured() const;

@@ -10,6 +10,11 @@ ColumnLayout {
     property int _focusMin: 0
     property int _focusMax: 0
 
+    readonly property string _exposureTime: {
+        const ms = ViewModel.exposureSupported ? ViewModel.exposureTimeMs : 0;
+        return ms > 0 ? qsTr("Eingestellt: %1 ms.").arg(ms.toFixed(ms < 10 ? 1 : 0)) : "";
+    }
+
     function _readFocusRange() {
         _focusMin = ViewModel.focusRangeMin;
         _focusMax = ViewModel.focusRangeMax;
@@ -30,7 +35,10 @@ ColumnLayout {
         objectName: "exposureSlider"
         Layout.fillWidth: true
         label: qsTr("Belichtung")
-        tooltipText: qsTr("Wie lange der Sensor pro Frame Licht sammelt. Länger = heller, aber empfindlicher für Bewegung. AUTO = Treiber wählt selbst.")
+        tooltipText: [
+            qsTr("Wie lange der Sensor pro Frame Licht sammelt. Länger = heller, aber empfindlicher für Bewegung. AUTO = Treiber wählt selbst."),
+            root._exposureTime
+        ].filter(text => text !== "").join(" ")
         supported: ViewModel.exposureSupported
         canAuto: ViewModel.exposureCanAuto
         rangeMin: ViewModel.exposureRangeMin
@@ -102,6 +110,8 @@ ColumnLayout {
     }
 
     SettingsSlider {
+        readonly property string _automatic: qsTr("AF")
+
         objectName: "focusSlider"
         Layout.fillWidth: true
         label: qsTr("Fokus")
@@ -110,7 +120,9 @@ ColumnLayout {
         from: root._focusMin
         // A cap of this slider alone, for cameras that tell no maximum.
         to: root._focusMax > 0 ? root._focusMax : 1000
-        zeroLabel: qsTr("AF")
+        // Which values are automatic is known of a camera that tells of its focus.
+        zeroLabel: ViewModel.focusSupported && !ViewModel.focusCanAuto ? "" : _automatic
+        atMinLabel: ViewModel.focusSupported && ViewModel.focusCanAuto ? _automatic : ""
         value: ViewModel.focusValue
         onMoved: newValue => { ViewModel.focusValue = Math.round(newValue); }
     }

@@ -75,7 +75,7 @@ struct CameraSettings
     bool centerOffsetEnabled = true;
     double zoom = 1.0;
     int focusValue = 0;
-    /// Exposure in the camera's own unit; the name stays from the time when it was a time.
+    /// Exposure on the scale of the camera's backend; the name stays from when it was a time.
     int captureTimeMs = 0;
     /// Live focus range of the running camera; never written to the file.
     int focusRangeMin = 0;

@@ -168,6 +168,8 @@ class CameraViewModel : public QObject
     Q_PROPERTY(int resolutionY READ resolutionY WRITE setResolutionY NOTIFY cameraSettingsChanged)
     MERIDAX_SETTING(int, focusValue, setFocusValue, camera.focusValue, cameraSettingsChanged)
     Q_PROPERTY(int exposure READ exposure WRITE setExposure NOTIFY cameraSettingsChanged)
+    /// Read anew with the camera's capabilities as well; 0 while automatic or unknown.
+    Q_PROPERTY(double exposureTimeMs READ exposureTimeMs NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int brightness READ brightness WRITE setBrightness NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int contrast READ contrast WRITE setContrast NOTIFY cameraSettingsChanged)
     Q_PROPERTY(int saturation READ saturation WRITE setSaturation NOTIFY cameraSettingsChanged)
@@ -177,6 +179,8 @@ class CameraViewModel : public QObject
     MERIDAX_CONTROL_RANGE(contrast)
     MERIDAX_CONTROL_RANGE(saturation)
     MERIDAX_CONTROL_RANGE(gain)
+    Q_PROPERTY(bool focusSupported READ focusSupported NOTIFY cameraCapabilitiesChanged)
+    Q_PROPERTY(bool focusCanAuto READ focusCanAuto NOTIFY cameraCapabilitiesChanged)
 
     // Profile of the selected camera; the centre is that of the selected resolution
     Q_PROPERTY(bool profileExists READ profileExists NOTIFY profileSettingsChanged)
@@ -364,6 +368,8 @@ public:
     void setResolutionY(int height) { setResolution({resolutionX(), height}); }
     int focusRangeMin() const { return m_settings.camera.focusRangeMin; }
     int focusRangeMax() const { return m_settings.camera.focusRangeMax; }
+    bool focusSupported() const { return m_capabilities.focus.supported; }
+    bool focusCanAuto() const { return m_capabilities.focus.canAuto; }
     QStringList resolutionOptions() const;
     int selectedResolutionIndex() const;
     void setSelectedResolutionIndex(int index);
@@ -373,6 +379,7 @@ public:
     int resolutionMaxY() const { return selectedLimits().largest.height(); }
     int exposure() const { return m_settings.camera.captureTimeMs; }
     void setExposure(int value);
+    double exposureTimeMs() const;
     int brightness() const { return m_settings.camera.brightness; }
     void setBrightness(int value);
     int contrast() const { return m_settings.camera.contrast; }

@@ -2,7 +2,7 @@
 
 #include "viewmodel/CameraViewModel.h"
 
-#include "viewmodel/ExposureMigration.h"
+#include "camera/ExposureScale.h"
 
 #include <QDebug>
 
@@ -186,6 +186,14 @@ void CameraViewModel::setExposure(int value)
                  range.supported ? range : fallbackExposureRange);
 }
 
+double CameraViewModel::exposureTimeMs() const
+{
+    const ControlRange &range = m_capabilities.exposure;
+    if (!range.supported || (range.canAuto && exposure() <= range.min))
+        return 0;
+    return exposureMs(exposure(), m_capabilities.exposureScale);
+}
+
 void CameraViewModel::setBrightness(int value)
 {
     storeControl(m_settings.camera.brightness, value, m_capabilities.brightness);
@@ -225,7 +233,7 @@ void CameraViewModel::migrateExposure()
 {
     const ControlRange &range = m_capabilities.exposure;
     const int former = m_settings.camera.captureTimeMs;
-    const int migrated = migratedExposure(former, range);
+    const int migrated = migratedExposure(former, range, m_capabilities.exposureScale);
     if (migrated == former)
         return;
     store(m_settings.camera.captureTimeMs, migrated, &CameraViewModel::cameraSettingsChanged);

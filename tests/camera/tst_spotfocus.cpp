@@ -25,7 +25,7 @@ class TestSpotFocus : public QObject
         settings.camera.cameraResolutionX = width;
         settings.camera.cameraResolutionY = height;
         settings.camera.focusValue = 77;
-        settings.camera.captureTimeMs = 333;
+        settings.camera.captureTimeMs = -49;
         return settings;
     }
 
@@ -57,8 +57,9 @@ private slots:
 
     void cleanup()
     {
-        simcam({QStringLiteral("set"), QStringLiteral("focus-best=380"),
-                QStringLiteral("frame-delay=0"), QStringLiteral("noise=2")});
+        simcam({QStringLiteral("set"), QStringLiteral("controls=2"),
+                QStringLiteral("focus-best=380"), QStringLiteral("frame-delay=0"),
+                QStringLiteral("noise=2")});
     }
 
     void endsAtTheSharpest_data()
@@ -107,6 +108,25 @@ private slots:
               seconds / runs, worst, fineStep);
     }
 
+    /// Focus ranges from 1 are common, and there 1 is automatic.
+    void neverAutomatic()
+    {
+        simcam(
+            {QStringLiteral("set"), QStringLiteral("controls=4"), QStringLiteral("focus-best=1")});
+        CameraController controller;
+        controller.updateSettings(settingsFor(640, 480));
+        QVERIFY(start(controller));
+        const auto isAutomatic = [] { return V4l2Client().control(V4L2_CID_FOCUS_AUTO); };
+        connect(&controller, &CameraController::focusSweepProgress, this,
+                [=] { QCOMPARE(isAutomatic(), 0); });
+        const SignalRecorder finished(&controller, &CameraController::focusSweepFinished);
+        controller.startFocusSweep(mark().x(), mark().y());
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
+        QCOMPARE(finished[0], (QVariantList{2, 0}));
+        QTRY_COMPARE(deviceFocus(), 2);
+        QCOMPARE(isAutomatic(), 0);
+    }
+
     void aBlankAreaLeavesTheFocus()
     {
         CameraController controller;
@@ -125,6 +145,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("by");
         QTest::newRow("cancel") << QByteArray("cancel");
+        QTest::newRow("cancel, another focus was chosen") << QByteArray("choice");
         QTest::newRow("stop") << QByteArray("stop");
     }
 
@@ -139,13 +160,18 @@ private slots:
         controller.startFocusSweep(mark().x(), mark().y());
         QTRY_VERIFY(progress.size() >= 2);
         QTRY_VERIFY(deviceFocus() != 77);
-        if (by == "cancel")
-            controller.cancelFocusSweep();
-        else
+        AppSettings settings = settingsFor(640, 480);
+        if (by == "choice") {
+            settings.camera.focusValue = 99;
+            controller.updateSettings(settings);
+        }
+        if (by == "stop")
             controller.stopCamera();
+        else
+            controller.cancelFocusSweep();
         QCOMPARE(finished.size(), 1);
-        QCOMPARE(finished[0], (QVariantList{77, 3}));
-        QTRY_COMPARE(deviceFocus(), 77);
+        QCOMPARE(finished[0], (QVariantList{settings.camera.focusValue, 3}));
+        QTRY_COMPARE(deviceFocus(), settings.camera.focusValue);
     }
 
     void aControlMovedMeanwhileStays()
@@ -158,13 +184,13 @@ private slots:
         const SignalRecorder finished(&controller, &CameraController::focusSweepFinished);
         controller.startFocusSweep(mark().x(), mark().y());
         QTRY_VERIFY(progress.size() >= 2);
-        settings.camera.captureTimeMs = 444;
+        settings.camera.captureTimeMs = -44;
         controller.updateSettings(settings);
         QVERIFY2(deviceFocus() != 77, "the lens went back in the middle of the sweep");
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
         QCOMPARE(finished[0][1].toInt(), 0);
         QTRY_COMPARE(deviceFocus(), finished[0][0].toInt());
-        QCOMPARE(V4l2Client().control(V4L2_CID_EXPOSURE_ABSOLUTE), 444);
+        QCOMPARE(V4l2Client().control(V4L2_CID_EXPOSURE_ABSOLUTE), 474);
     }
 
     void unpluggedInTheMiddle()

@@ -17,7 +17,7 @@ ControlRange range(int min, int max, int defaultValue, bool canAuto)
 // The simulated camera's ranges.
 const ControlRange brightness = range(-64, 64, 0, false);
 const ControlRange contrast = range(0, 64, 32, false);
-const ControlRange exposure = range(1, 5000, 333, true);
+const ControlRange exposure = range(-133, -10, -49, true); // of 0.1 ms to 0.5 s, 33 ms
 const ControlRange focus = range(0, 1023, 0, true);
 const ControlRange whiteBalance = range(2800, 6500, 4600, true);
 
@@ -30,7 +30,8 @@ CameraCapabilities commonCamera()
             .saturation = range(0, 128, 64, false),
             .gain = range(0, 100, 0, false),
             .gamma = range(72, 500, 100, false),
-            .whiteBalance = whiteBalance};
+            .whiteBalance = whiteBalance,
+            .exposureScale = ExposureScale::TenthsOfAStop};
 }
 
 /// All controls on values of their own, manual where there is a choice.
@@ -38,7 +39,7 @@ CameraSettings manualSettings()
 {
     CameraSettings settings;
     settings.cameraId = QStringLiteral("/dev/video0");
-    settings.captureTimeMs = 200;
+    settings.captureTimeMs = -56;
     settings.focusValue = 380;
     settings.brightness = 7;
     settings.contrast = 40;
@@ -68,6 +69,7 @@ private slots:
         QTest::addColumn<CameraCapabilities>("expected");
         QTest::newRow("common camera") << "controls=2" << commonCamera();
         CameraCapabilities simple = commonCamera();
+        simple.exposureScale = ExposureScale::Stops;
         simple.exposure = simple.focus = simple.gain = simple.gamma = simple.whiteBalance = {};
         QTest::newRow("image controls only") << "controls=1" << simple;
         CameraCapabilities odd = commonCamera();
@@ -106,7 +108,7 @@ private slots:
             QCOMPARE(other.setControl(V4L2_CID_EXPOSURE_AUTO, V4L2_EXPOSURE_SHUTTER_PRIORITY), 0);
         QVERIFY(apply(manualSettings()));
         QCOMPARE(other.control(V4L2_CID_EXPOSURE_AUTO), V4L2_EXPOSURE_MANUAL);
-        QCOMPARE(other.control(V4L2_CID_EXPOSURE_ABSOLUTE), 200);
+        QCOMPARE(other.control(V4L2_CID_EXPOSURE_ABSOLUTE), 206);
         QCOMPARE(other.control(V4L2_CID_FOCUS_AUTO), 0);
         QCOMPARE(other.control(V4L2_CID_FOCUS_ABSOLUTE), 380);
         QCOMPARE(other.control(V4L2_CID_BRIGHTNESS), 7);
@@ -133,7 +135,7 @@ private slots:
         const V4l2Client other;
         CameraSettings settings = manualSettings();
         QVERIFY(apply(settings));
-        settings.captureTimeMs = 1;
+        settings.captureTimeMs = -133;
         settings.focusValue = 0;
         settings.brightness = -64;
         settings.gain = 0;
@@ -263,7 +265,7 @@ private slots:
         QVERIFY(apply(manualSettings()));
         QCOMPARE(other.control(V4L2_CID_FOCUS_ABSOLUTE), 380);
         QCOMPARE(other.control(V4L2_CID_GAIN), 5);
-        QVERIFY2(other.control(V4L2_CID_EXPOSURE_ABSOLUTE) != 200, "needs its range");
+        QVERIFY2(other.control(V4L2_CID_EXPOSURE_ABSOLUTE) != 206, "needs its range");
     }
 
     void failuresAreTold()

@@ -220,6 +220,40 @@ private slots:
         QTRY_VERIFY(running.size() >= 1);
     }
 
+    void theFirstPictureShowsTheScene_data()
+    {
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("nothing stored") << 0 << -133;
+        QTest::newRow("automatic, in the unit of earlier versions") << 1 << -133;
+        QTest::newRow("25 ms, in that unit") << 250 << -53;
+    }
+
+    void theFirstPictureShowsTheScene()
+    {
+        QFETCH(int, stored);
+        QFETCH(int, expected);
+        fixture::simcam({QStringLiteral("set"), QStringLiteral("long-exposures=1")});
+        const auto reset = qScopeGuard(
+            [] { fixture::simcam({QStringLiteral("set"), QStringLiteral("long-exposures=0")}); });
+        AppSettings settings;
+        settings.camera.captureTimeMs = stored;
+        const auto viewModel = stored ? fixture::startWith(settings) : fixture::firstStart();
+        QList<int> greys;
+        int sinceMigration = 0;
+        connect(
+            viewModel->controller(), &CameraController::frameReady, this, [&](const QImage &frame) {
+                greys << qGray(frame.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                   .pixel(0, 0));
+                sinceMigration += viewModel->exposureSupported();
+            });
+        viewModel->startCamera();
+        QTRY_VERIFY_WITH_TIMEOUT(sinceMigration >= 5, 20000);
+        QCOMPARE(viewModel->exposure(), expected);
+        for (const int grey : std::as_const(greys))
+            QVERIFY2(grey >= 40 && grey <= 215, qPrintable(QString::number(grey)));
+    }
+
     void unplugging()
     {
         const auto viewModel = fixture::firstStart();

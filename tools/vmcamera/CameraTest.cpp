@@ -2,6 +2,7 @@
 
 #include "CameraWindow.h"
 #include "Helpers.h"
+#include "camera/ExposureScale.h"
 
 #include <QElapsedTimer>
 
@@ -70,7 +71,8 @@ private:
             return m_window.value("exposureSupported").toBool() &&
                    m_window.value("focusRangeMax").toInt() > 0;
         });
-        slide(&CameraWindow::stepUp, "exposureSlider", "exposure", V4L2_CID_EXPOSURE_ABSOLUTE);
+        slide(&CameraWindow::stepUp, "exposureSlider", "exposure", V4L2_CID_EXPOSURE_ABSOLUTE,
+              meridax::unitsOfExposure);
         requireDeviceValue(V4L2_CID_EXPOSURE_AUTO, V4L2_EXPOSURE_MANUAL);
         slide(&CameraWindow::stepUp, "brightnessSlider", "brightness", V4L2_CID_BRIGHTNESS);
         slide(&CameraWindow::stepUp, "contrastSlider", "contrast", V4L2_CID_CONTRAST);
@@ -182,14 +184,16 @@ private:
     }
 
     /// Moves a slider and waits until its new value stands in the device.
-    void slide(void (CameraWindow::*move)(const char *), const char *slider, const char *property,
-               std::uint32_t control)
+    void slide(
+        void (CameraWindow::*move)(const char *), const char *slider, const char *property,
+        std::uint32_t control, int (*onDevice)(int) = [](int value) { return value; })
     {
         const auto value = [&] { return m_window.value(property).toInt(); };
         const int before = value();
         (m_window.*move)(slider);
-        waitLong(QStringLiteral("the %1 in the device").arg(QLatin1String(property)),
-                 [&] { return value() != before && deviceControl(kDevice, control) == value(); });
+        waitLong(QStringLiteral("the %1 in the device").arg(QLatin1String(property)), [&] {
+            return value() != before && deviceControl(kDevice, control) == onDevice(value());
+        });
     }
 
     static void requireDeviceValue(std::uint32_t control, int value)
