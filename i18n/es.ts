@@ -414,6 +414,10 @@
         <source>AF</source>
         <translation>AF</translation>
     </message>
+    <message>
+        <source>Eingestellt: %1 ms.</source>
+        <translation>Ajustado: %1 ms.</translation>
+    </message>
 </context>
 <context>
     <name>CameraSettingsPane</name>

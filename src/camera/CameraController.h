@@ -215,7 +215,7 @@ private:
     std::unique_ptr<ControlThread> m_controlThread; ///< null without a backend
     std::uint64_t m_lastWrite = 0;                  ///< number of the last record written
     std::uint64_t m_writesOfOthers = 0; ///< up to here records went to a camera closed since
-    ControlRange m_focusControl; ///< as last reported
+    ControlRange m_focusControl;        ///< as last reported
 
     bool m_capabilitiesQueried = false;
     std::uint64_t m_capabilitiesProbe = 0; ///< number of the question under way, 0 none

@@ -8,8 +8,8 @@ namespace meridax {
 /// beside the stream, and closes it again.
 ///
 /// The device is the node `cameraId` where it exists, else the one that chooseDevice() gives.
-/// Exposure is in tenths of a stop; a value from elsewhere is migrated before it is written, so that
-/// the first picture has its light.
+/// Exposure is in tenths of a stop; a value from elsewhere is migrated before it is written, so
+/// that the first picture has its light.
 ///
 /// With ControlWrites::Changed a control that has the wanted value and mode already counts as taken
 /// and is not written, since each write is a slow transfer to the camera. Most readings are

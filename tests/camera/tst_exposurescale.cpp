@@ -35,8 +35,8 @@ private slots:
         }
         QCOMPARE(exposureOfUnits(1000000), -7);
         QCOMPARE(exposureOfUnits(-5), exposureOfUnits(1));
-        for (const int exposure : {-90, -50, -10})
-            QCOMPARE(unitsOfExposure(exposure + 10), qRound(2.0 * unitsOfExposure(exposure)));
+        for (const int exposure : {-90, -50, -17})
+            QVERIFY(std::abs(unitsOfExposure(exposure + 10) - 2 * unitsOfExposure(exposure)) <= 1);
         QCOMPARE(unitsOfExposure(std::numeric_limits<int>::max()), 6156);
         QCOMPARE(unitsOfExposure(std::numeric_limits<int>::min()), 0);
     }

@@ -122,8 +122,9 @@ private slots:
         const SignalRecorder finished(&controller, &CameraController::focusSweepFinished);
         controller.startFocusSweep(mark().x(), mark().y());
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
-        QCOMPARE(finished[0], (QVariantList{2, 0}));
-        QTRY_COMPARE(deviceFocus(), 2);
+        QCOMPARE(finished[0][1].toInt(), 0);
+        QVERIFY(finished[0][0].toInt() >= 2 && finished[0][0].toInt() < 30);
+        QTRY_COMPARE(deviceFocus(), finished[0][0].toInt());
         QCOMPARE(isAutomatic(), 0);
     }
 

@@ -241,12 +241,14 @@ private slots:
         const auto viewModel = stored ? fixture::startWith(settings) : fixture::firstStart();
         QList<int> greys;
         int sinceMigration = 0;
-        connect(
-            viewModel->controller(), &CameraController::frameReady, this, [&](const QImage &frame) {
-                greys << qGray(frame.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                                   .pixel(0, 0));
-                sinceMigration += viewModel->exposureSupported();
-            });
+        const QObject context; // whose end is the end of the connection, before what it captures
+        connect(viewModel->controller(), &CameraController::frameReady, &context,
+                [&](const QImage &frame) {
+                    greys << qGray(
+                        frame.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                            .pixel(0, 0));
+                    sinceMigration += viewModel->exposureSupported();
+                });
         viewModel->startCamera();
         QTRY_VERIFY_WITH_TIMEOUT(sinceMigration >= 5, 20000);
         QCOMPARE(viewModel->exposure(), expected);

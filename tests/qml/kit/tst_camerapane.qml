@@ -139,7 +139,7 @@ TestCase {
             mouseClick(findChild(target, "plusButton"));
             compare(ViewModel[name], before + target.stepSize, name);
             type(target, "1,6"); // whole numbers only
-            compare(ViewModel[name], 2, name);
+            compare(ViewModel[name], Math.min(2, target.to), name);
         }
     }
 
