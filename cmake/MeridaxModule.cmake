@@ -45,8 +45,10 @@ qt_add_qml_module(meridax_module
         src/measurement/CameraController_focus.cpp
         src/measurement/FocusSession.h
         src/viewmodel/BoundedText.cpp src/viewmodel/BoundedText.h
+        src/viewmodel/BlobAdviceMap.cpp src/viewmodel/BlobAdviceMap.h
         src/viewmodel/CameraList.cpp src/viewmodel/CameraList.h
         src/viewmodel/CameraViewModel.cpp src/viewmodel/CameraViewModel.h
+        src/viewmodel/CameraViewModel_advice.cpp
         src/viewmodel/CameraViewModel_calibration.cpp
         src/viewmodel/CameraViewModel_camera.cpp
         src/viewmodel/CameraViewModel_crash.cpp

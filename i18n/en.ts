@@ -111,6 +111,21 @@
     </message>
 </context>
 <context>
+    <name>BlobAdviceLine</name>
+    <message>
+        <source>Werte übernommen.</source>
+        <translation>Values applied.</translation>
+    </message>
+    <message>
+        <source>Werte übernehmen</source>
+        <translation>Apply values</translation>
+    </message>
+    <message>
+        <source>Zurücknehmen</source>
+        <translation>Undo</translation>
+    </message>
+</context>
+<context>
     <name>BlobParameters</name>
     <message>
         <source>Min Threshold</source>
@@ -179,6 +194,104 @@
     <message>
         <source>Wie symmetrisch ein Punkt mindestens sein muss. 0 = beliebig, 100 = perfekt symmetrisch.</source>
         <translation>How symmetrical a spot has to be at least. 0 = any shape, 100 = perfectly symmetrical.</translation>
+    </message>
+</context>
+<context>
+    <name>BlobTags</name>
+    <message>
+        <source>im Weg: %1</source>
+        <translation>in the way: %1</translation>
+    </message>
+</context>
+<context>
+    <name>BlobWords</name>
+    <message>
+        <source>Das Bild ist zu dunkel.</source>
+        <translation>The picture is too dark.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist zu hell.</source>
+        <translation>The picture is too bright.</translation>
+    </message>
+    <message>
+        <source>Das Bild hat keinen Kontrast.</source>
+        <translation>The picture has no contrast.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist unscharf.</source>
+        <translation>The picture is out of focus.</translation>
+    </message>
+    <message>
+        <source>Kein dunkler, geschlossener Fleck im Bild.</source>
+        <translation>No dark, closed spot in the picture.</translation>
+    </message>
+    <message>
+        <source>%1 px²</source>
+        <translation>%1 px²</translation>
+    </message>
+    <message>
+        <source>zu klein: %1 (mindestens %2)</source>
+        <translation>too small: %1 (at least %2)</translation>
+    </message>
+    <message>
+        <source>zu groß: %1 (höchstens %2)</source>
+        <translation>too large: %1 (at most %2)</translation>
+    </message>
+    <message>
+        <source>Rundheit %1 % (mindestens %2 %)</source>
+        <translation>roundness %1 % (at least %2 %)</translation>
+    </message>
+    <message>
+        <source>Symmetrie %1 % (mindestens %2 %)</source>
+        <translation>symmetry %1 % (at least %2 %)</translation>
+    </message>
+    <message>
+        <source>zu dunkel: Helligkeit %1 (mindestens %2)</source>
+        <translation>too dark: brightness %1 (at least %2)</translation>
+    </message>
+    <message>
+        <source>zu hell: Helligkeit %1 (höchstens %2)</source>
+        <translation>too bright: brightness %1 (at most %2)</translation>
+    </message>
+    <message>
+        <source>zu schwacher Kontrast: %1 Stufen</source>
+        <translation>contrast too weak: %1 levels</translation>
+    </message>
+    <message>
+        <source>%1 Blobs: %2</source>
+        <translation>%1 blobs: %2</translation>
+    </message>
+    <message>
+        <source>%1 bis %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>%1 und %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Fläche %1–%2</source>
+        <translation>Blob flickers: area %1–%2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Rundheit %1–%2 %</source>
+        <translation>Blob flickers: roundness %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Symmetrie %1–%2 %</source>
+        <translation>Blob flickers: symmetry %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Helligkeit %1–%2</source>
+        <translation>Blob flickers: brightness %1–%2</translation>
+    </message>
+    <message>
+        <source>Nächster Kandidat: %1</source>
+        <translation>Nearest candidate: %1</translation>
+    </message>
+    <message>
+        <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
+        <translation>%1. No setting separates it from the spot of %2.</translation>
     </message>
 </context>
 <context>

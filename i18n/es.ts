@@ -111,6 +111,21 @@
     </message>
 </context>
 <context>
+    <name>BlobAdviceLine</name>
+    <message>
+        <source>Werte übernommen.</source>
+        <translation>Valores aplicados.</translation>
+    </message>
+    <message>
+        <source>Werte übernehmen</source>
+        <translation>Aplicar los valores</translation>
+    </message>
+    <message>
+        <source>Zurücknehmen</source>
+        <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
     <name>BlobParameters</name>
     <message>
         <source>Min Threshold</source>
@@ -179,6 +194,104 @@
     <message>
         <source>Wie symmetrisch ein Punkt mindestens sein muss. 0 = beliebig, 100 = perfekt symmetrisch.</source>
         <translation>Lo simétrico que debe ser como mínimo un punto. 0 = cualquiera, 100 = perfectamente simétrico.</translation>
+    </message>
+</context>
+<context>
+    <name>BlobTags</name>
+    <message>
+        <source>im Weg: %1</source>
+        <translation>estorba: %1</translation>
+    </message>
+</context>
+<context>
+    <name>BlobWords</name>
+    <message>
+        <source>Das Bild ist zu dunkel.</source>
+        <translation>La imagen es demasiado oscura.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist zu hell.</source>
+        <translation>La imagen es demasiado clara.</translation>
+    </message>
+    <message>
+        <source>Das Bild hat keinen Kontrast.</source>
+        <translation>La imagen no tiene contraste.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist unscharf.</source>
+        <translation>La imagen está desenfocada.</translation>
+    </message>
+    <message>
+        <source>Kein dunkler, geschlossener Fleck im Bild.</source>
+        <translation>Ninguna mancha oscura y cerrada en la imagen.</translation>
+    </message>
+    <message>
+        <source>%1 px²</source>
+        <translation>%1 px²</translation>
+    </message>
+    <message>
+        <source>zu klein: %1 (mindestens %2)</source>
+        <translation>demasiado pequeño: %1 (mínimo %2)</translation>
+    </message>
+    <message>
+        <source>zu groß: %1 (höchstens %2)</source>
+        <translation>demasiado grande: %1 (máximo %2)</translation>
+    </message>
+    <message>
+        <source>Rundheit %1 % (mindestens %2 %)</source>
+        <translation>redondez %1 % (mínimo %2 %)</translation>
+    </message>
+    <message>
+        <source>Symmetrie %1 % (mindestens %2 %)</source>
+        <translation>simetría %1 % (mínimo %2 %)</translation>
+    </message>
+    <message>
+        <source>zu dunkel: Helligkeit %1 (mindestens %2)</source>
+        <translation>demasiado oscuro: brillo %1 (mínimo %2)</translation>
+    </message>
+    <message>
+        <source>zu hell: Helligkeit %1 (höchstens %2)</source>
+        <translation>demasiado claro: brillo %1 (máximo %2)</translation>
+    </message>
+    <message>
+        <source>zu schwacher Kontrast: %1 Stufen</source>
+        <translation>contraste demasiado débil: %1 niveles</translation>
+    </message>
+    <message>
+        <source>%1 Blobs: %2</source>
+        <translation>%1 blobs: %2</translation>
+    </message>
+    <message>
+        <source>%1 bis %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>%1 und %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Fläche %1–%2</source>
+        <translation>El blob parpadea: área %1–%2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Rundheit %1–%2 %</source>
+        <translation>El blob parpadea: redondez %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Symmetrie %1–%2 %</source>
+        <translation>El blob parpadea: simetría %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Helligkeit %1–%2</source>
+        <translation>El blob parpadea: brillo %1–%2</translation>
+    </message>
+    <message>
+        <source>Nächster Kandidat: %1</source>
+        <translation>Candidato más cercano: %1</translation>
+    </message>
+    <message>
+        <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
+        <translation>%1. Ningún ajuste lo separa de la mancha de %2.</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,21 @@
     </message>
 </context>
 <context>
+    <name>BlobAdviceLine</name>
+    <message>
+        <source>Werte übernommen.</source>
+        <translation>Valeurs appliquées.</translation>
+    </message>
+    <message>
+        <source>Werte übernehmen</source>
+        <translation>Appliquer les valeurs</translation>
+    </message>
+    <message>
+        <source>Zurücknehmen</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>BlobParameters</name>
     <message>
         <source>Min Threshold</source>
@@ -179,6 +194,104 @@
     <message>
         <source>Wie symmetrisch ein Punkt mindestens sein muss. 0 = beliebig, 100 = perfekt symmetrisch.</source>
         <translation>Symétrie minimale exigée d’un point. 0 = quelconque, 100 = parfaitement symétrique.</translation>
+    </message>
+</context>
+<context>
+    <name>BlobTags</name>
+    <message>
+        <source>im Weg: %1</source>
+        <translation>gêne : %1</translation>
+    </message>
+</context>
+<context>
+    <name>BlobWords</name>
+    <message>
+        <source>Das Bild ist zu dunkel.</source>
+        <translation>L’image est trop sombre.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist zu hell.</source>
+        <translation>L’image est trop claire.</translation>
+    </message>
+    <message>
+        <source>Das Bild hat keinen Kontrast.</source>
+        <translation>L’image n’a pas de contraste.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist unscharf.</source>
+        <translation>L’image est floue.</translation>
+    </message>
+    <message>
+        <source>Kein dunkler, geschlossener Fleck im Bild.</source>
+        <translation>Aucune tache sombre et fermée dans l’image.</translation>
+    </message>
+    <message>
+        <source>%1 px²</source>
+        <translation>%1 px²</translation>
+    </message>
+    <message>
+        <source>zu klein: %1 (mindestens %2)</source>
+        <translation>trop petit : %1 (au moins %2)</translation>
+    </message>
+    <message>
+        <source>zu groß: %1 (höchstens %2)</source>
+        <translation>trop grand : %1 (au plus %2)</translation>
+    </message>
+    <message>
+        <source>Rundheit %1 % (mindestens %2 %)</source>
+        <translation>circularité %1 % (au moins %2 %)</translation>
+    </message>
+    <message>
+        <source>Symmetrie %1 % (mindestens %2 %)</source>
+        <translation>symétrie %1 % (au moins %2 %)</translation>
+    </message>
+    <message>
+        <source>zu dunkel: Helligkeit %1 (mindestens %2)</source>
+        <translation>trop sombre : luminosité %1 (au moins %2)</translation>
+    </message>
+    <message>
+        <source>zu hell: Helligkeit %1 (höchstens %2)</source>
+        <translation>trop clair : luminosité %1 (au plus %2)</translation>
+    </message>
+    <message>
+        <source>zu schwacher Kontrast: %1 Stufen</source>
+        <translation>contraste trop faible : %1 niveaux</translation>
+    </message>
+    <message>
+        <source>%1 Blobs: %2</source>
+        <translation>%1 blobs : %2</translation>
+    </message>
+    <message>
+        <source>%1 bis %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 und %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Fläche %1–%2</source>
+        <translation>Le blob scintille : surface %1–%2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Rundheit %1–%2 %</source>
+        <translation>Le blob scintille : circularité %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Symmetrie %1–%2 %</source>
+        <translation>Le blob scintille : symétrie %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Helligkeit %1–%2</source>
+        <translation>Le blob scintille : luminosité %1–%2</translation>
+    </message>
+    <message>
+        <source>Nächster Kandidat: %1</source>
+        <translation>Candidat le plus proche : %1</translation>
+    </message>
+    <message>
+        <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
+        <translation>%1. Aucun réglage ne le sépare de la tache de %2.</translation>
     </message>
 </context>
 <context>

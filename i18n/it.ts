@@ -111,6 +111,21 @@
     </message>
 </context>
 <context>
+    <name>BlobAdviceLine</name>
+    <message>
+        <source>Werte übernommen.</source>
+        <translation>Valori applicati.</translation>
+    </message>
+    <message>
+        <source>Werte übernehmen</source>
+        <translation>Applica i valori</translation>
+    </message>
+    <message>
+        <source>Zurücknehmen</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>BlobParameters</name>
     <message>
         <source>Min Threshold</source>
@@ -179,6 +194,104 @@
     <message>
         <source>Wie symmetrisch ein Punkt mindestens sein muss. 0 = beliebig, 100 = perfekt symmetrisch.</source>
         <translation>Simmetria minima che un punto deve avere. 0 = qualsiasi, 100 = perfettamente simmetrico.</translation>
+    </message>
+</context>
+<context>
+    <name>BlobTags</name>
+    <message>
+        <source>im Weg: %1</source>
+        <translation>d’intralcio: %1</translation>
+    </message>
+</context>
+<context>
+    <name>BlobWords</name>
+    <message>
+        <source>Das Bild ist zu dunkel.</source>
+        <translation>L’immagine è troppo scura.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist zu hell.</source>
+        <translation>L’immagine è troppo chiara.</translation>
+    </message>
+    <message>
+        <source>Das Bild hat keinen Kontrast.</source>
+        <translation>L’immagine non ha contrasto.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist unscharf.</source>
+        <translation>L’immagine è sfocata.</translation>
+    </message>
+    <message>
+        <source>Kein dunkler, geschlossener Fleck im Bild.</source>
+        <translation>Nessuna macchia scura e chiusa nell’immagine.</translation>
+    </message>
+    <message>
+        <source>%1 px²</source>
+        <translation>%1 px²</translation>
+    </message>
+    <message>
+        <source>zu klein: %1 (mindestens %2)</source>
+        <translation>troppo piccolo: %1 (almeno %2)</translation>
+    </message>
+    <message>
+        <source>zu groß: %1 (höchstens %2)</source>
+        <translation>troppo grande: %1 (al massimo %2)</translation>
+    </message>
+    <message>
+        <source>Rundheit %1 % (mindestens %2 %)</source>
+        <translation>rotondità %1 % (almeno %2 %)</translation>
+    </message>
+    <message>
+        <source>Symmetrie %1 % (mindestens %2 %)</source>
+        <translation>simmetria %1 % (almeno %2 %)</translation>
+    </message>
+    <message>
+        <source>zu dunkel: Helligkeit %1 (mindestens %2)</source>
+        <translation>troppo scuro: luminosità %1 (almeno %2)</translation>
+    </message>
+    <message>
+        <source>zu hell: Helligkeit %1 (höchstens %2)</source>
+        <translation>troppo chiaro: luminosità %1 (al massimo %2)</translation>
+    </message>
+    <message>
+        <source>zu schwacher Kontrast: %1 Stufen</source>
+        <translation>contrasto troppo debole: %1 livelli</translation>
+    </message>
+    <message>
+        <source>%1 Blobs: %2</source>
+        <translation>%1 blob: %2</translation>
+    </message>
+    <message>
+        <source>%1 bis %2</source>
+        <translation>da %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1 und %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Fläche %1–%2</source>
+        <translation>Il blob sfarfalla: area %1–%2</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Rundheit %1–%2 %</source>
+        <translation>Il blob sfarfalla: rotondità %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Symmetrie %1–%2 %</source>
+        <translation>Il blob sfarfalla: simmetria %1–%2 %</translation>
+    </message>
+    <message>
+        <source>Blob flackert: Helligkeit %1–%2</source>
+        <translation>Il blob sfarfalla: luminosità %1–%2</translation>
+    </message>
+    <message>
+        <source>Nächster Kandidat: %1</source>
+        <translation>Candidato più vicino: %1</translation>
+    </message>
+    <message>
+        <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
+        <translation>%1. Nessuna impostazione lo separa dalla macchia di %2.</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,7 @@ namespace meridax {
 
 enum class ChannelOrder;
 
+struct BlobAdvice;
 struct CalibrationSession;
 struct CalibrationSessionDeleter
 {
@@ -58,6 +59,7 @@ class CameraController : public QObject
 {
     Q_OBJECT
     QML_ANONYMOUS
+    Q_MOC_INCLUDE("measurement/BlobAdvice.h")
 
 public:
     explicit CameraController(QObject *parent = nullptr,
@@ -119,6 +121,7 @@ signals:
     void blobInSectorChanged(bool inSector);
     void blobSectorAlignmentChanged(double alignment);
     void cameraCapabilitiesDetected(const meridax::CameraCapabilities &caps);
+    void blobAdviceChanged(const meridax::BlobAdvice &advice);
 
 public slots:
     /// Entry of the pipeline; runs on the controller's thread.
@@ -180,6 +183,7 @@ private:
     void forgetBlobCount();
     void resetBlobState();
     void analyseCalibrationFrame(cv::Mat &frame, ChannelOrder order, const AppSettings &settings);
+    void adviseOnBlobs(int count, const AppSettings &settings);
     void publishBlobCount(int count);
     void publishSector(bool inSector, double alignment);
     void measureBlob(cv::Mat &frame, ChannelOrder order, const cv::KeyPoint &blob,

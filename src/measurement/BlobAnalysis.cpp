@@ -10,8 +10,6 @@
 namespace meridax {
 namespace {
 
-constexpr int kDetectionColumns = 1280;
-
 /// The upper end of a range that must hold at least one unit above `lower`.
 float upperLimit(double wanted, float lower)
 {
@@ -119,9 +117,9 @@ cv::Ptr<cv::SimpleBlobDetector> createBlobDetector(const BlobSettings &settings)
 
 cv::Mat detectionImage(const cv::Mat &grey, cv::Mat &scaled)
 {
-    if (grey.cols <= kDetectionColumns)
+    if (grey.cols <= detectionColumns)
         return grey;
-    const double scale = static_cast<double>(kDetectionColumns) / grey.cols;
+    const double scale = static_cast<double>(detectionColumns) / grey.cols;
     if (grey.rows * scale < 1.0)
         return {};
     cv::resize(grey, scaled, cv::Size(), scale, scale, cv::INTER_AREA);
@@ -143,7 +141,7 @@ std::vector<cv::KeyPoint> detectBlobs(cv::SimpleBlobDetector &detector, const cv
     if (image.cols == grey.cols)
         return keypoints;
 
-    const double scale = static_cast<double>(kDetectionColumns) / grey.cols;
+    const double scale = static_cast<double>(detectionColumns) / grey.cols;
     const float back = static_cast<float>(1.0 / scale);
     for (cv::KeyPoint &keypoint : keypoints) {
         keypoint.pt *= back;

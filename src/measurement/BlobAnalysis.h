@@ -16,6 +16,9 @@
 /// resolution; the centre of the top left pixel is (0, 0).
 namespace meridax {
 
+/// A wider image is searched at this width.
+inline constexpr int detectionColumns = 1280;
+
 /// Detector parameters for dark blobs; limits that contradict each other are put in order.
 cv::SimpleBlobDetector::Params buildDetectorParams(const BlobSettings &settings);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "measurement/CalibrationRun.h"
+#include "measurement/CandidateSearch.h"
 #include "settings/AppSettings.h"
 
 #include <opencv2/core.hpp>
@@ -27,12 +28,14 @@ struct CalibrationSession
     std::atomic<int> blobCount = -1; ///< -1: publish the next count whatever it is
     std::atomic<bool> inSector = false;
     std::atomic<double> alignment = 0.0;
+    std::atomic<bool> searchStale = false; ///< what `search` knows is of an earlier calibration
 
     // Processing thread only. The images are kept for their memory.
     cv::Ptr<cv::SimpleBlobDetector> detector;
     BlobSettings detectorSettings; ///< what `detector` was built from
     cv::Mat grey;
     cv::Mat scaled;
+    CandidateSearch search;
 
     /// The detector is missing or was built from other settings than those of the frame, which may
     /// be older than the controller's.

@@ -58,6 +58,7 @@ void CameraController::resetBlobState()
     forgetBlobCount();
     m_calibration->inSector = false;
     m_calibration->alignment = 0.0;
+    m_calibration->searchStale = true;
 }
 
 void CameraController::startCalibration(int positions)
@@ -129,6 +130,22 @@ void CameraController::analyseCalibrationFrame(cv::Mat &frame, ChannelOrder orde
         drawBlobMark(frame, blob, inOrder(single ? kGreen : kRed, order));
     if (single)
         measureBlob(frame, order, blobs[0], settings.calibrationMeasureFrames);
+    adviseOnBlobs(static_cast<int>(blobs.size()), settings);
+}
+
+void CameraController::adviseOnBlobs(int count, const AppSettings &settings)
+{
+    CalibrationSession &session = *m_calibration;
+    if (session.searchStale.exchange(false))
+        session.search.clear();
+    const cv::Mat &image = session.grey.cols > detectionColumns ? session.scaled : session.grey;
+    if (image.empty())
+        return;
+    const double scale = static_cast<double>(session.grey.cols) / image.cols;
+    const ExpectedPlace place{overlayCentre(settings.camera), session.guideIndex,
+                              session.positions};
+    if (session.search.addFrame(image, scale, settings.blob, count, place))
+        emit blobAdviceChanged(session.search.advice());
 }
 
 void CameraController::publishBlobCount(int count)

@@ -133,6 +133,16 @@ Pane {
             blobInSector: ViewModel.blobInSector
         }
 
+        BlobAdviceLine {
+            objectName: "blobAdvice"
+            Layout.fillWidth: true
+            visible: hint.visible && (ViewModel.blobAdviceApplied || saysSomething)
+            advice: ViewModel.blobAdvice
+            applied: ViewModel.blobAdviceApplied
+            onAccepted: ViewModel.applyBlobAdvice()
+            onUndone: ViewModel.undoBlobAdvice()
+        }
+
         CollapsibleSection {
             objectName: "blobSection"
             Layout.fillWidth: true

@@ -72,6 +72,14 @@ Item {
         frameCenter: Qt.point(captureArea.cxFull, captureArea.cyFull)
     }
 
+    BlobTags {
+        objectName: "blobTags"
+        anchors.fill: videoItem
+        visible: overlayCanvas.visible && ViewModel.calibrationActive
+        video: videoItem
+        advice: ViewModel.blobAdvice
+    }
+
     GuideSector {
         id: sectorClip
 

@@ -33,8 +33,12 @@ set(meridax_qml_internal
     src/qml/AppearanceSettings.qml
     src/qml/BarSeparator.qml
     src/qml/BetaTag.qml
+    src/qml/BlobAdviceLine.qml
     src/qml/BlobParameters.qml
     src/qml/BoundSlider.qml
+    src/qml/BlobTag.qml
+    src/qml/BlobTags.qml
+    src/qml/BlobWords.qml
     src/qml/BuildBlock.qml
     src/qml/CalibrationHint.qml
     src/qml/CameraControlSlider.qml

@@ -53,6 +53,7 @@ CameraViewModel::CameraViewModel()
     connect(&m_saveTimer, &QTimer::timeout, this, &CameraViewModel::writeSettings);
     connectController();
     connectCalibration();
+    connectBlobAdvice();
     connectFocus();
     connectCameraList();
     refreshCameras();

@@ -143,6 +143,9 @@ class CameraViewModel : public QObject
     Q_PROPERTY(int measureFramesTotal READ measureFramesTotal NOTIFY measureProgressChanged)
     Q_PROPERTY(bool measureInProgress READ measureInProgress NOTIFY measureProgressChanged)
     Q_PROPERTY(double measureProgressRatio READ measureProgressRatio NOTIFY measureProgressChanged)
+    // Why the mark is not found; a map as blobAdviceMap() tells
+    Q_PROPERTY(QVariantMap blobAdvice READ blobAdvice NOTIFY blobAdviceChanged)
+    Q_PROPERTY(bool blobAdviceApplied READ blobAdviceApplied NOTIFY blobAdviceChanged)
     Q_PROPERTY(bool calibrated READ calibrated NOTIFY calibratedChanged)
     Q_PROPERTY(bool locked READ locked NOTIFY lockStateChanged)
     Q_PROPERTY(int calibrationPositions READ calibrationPositions WRITE setCalibrationPositions
@@ -327,6 +330,8 @@ public:
     int totalGuidePositions() const { return m_totalGuidePositions; }
     bool blobInSector() const { return m_blobInSector; }
     double blobSectorAlignment() const { return m_blobSectorAlignment; }
+    QVariantMap blobAdvice() const { return m_blobAdvice; }
+    bool blobAdviceApplied() const { return m_blobBeforeAdvice.has_value(); }
     QVariantList measurements() const { return m_measurements; }
     double pendingCenterX() const { return m_pending.center.x(); }
     double pendingCenterY() const { return m_pending.center.y(); }
@@ -545,6 +550,10 @@ public slots:
     void discardPendingCenter();
     void unlockCalibration();
     void lockCalibration();
+    /// Sets the detector values that the advice proposes; nothing without a proposal.
+    void applyBlobAdvice();
+    /// Takes them back, as long as nobody has changed a value of the detector since.
+    void undoBlobAdvice();
 
 signals:
     void runningChanged();
@@ -583,6 +592,7 @@ signals:
     void bugReportStateChanged();
     void crashStateChanged();
     void legalDocsChanged();
+    void blobAdviceChanged();
 
 private:
     using Notify = void (CameraViewModel::*)();
@@ -590,6 +600,9 @@ private:
     CameraViewModel();
     void connectController();
     void connectCalibration();
+    void connectBlobAdvice();
+    void storeBlobAdvice(const QVariantMap &advice, const std::optional<BlobSettings> &proposal);
+    void setBlobSettings(const BlobSettings &settings);
     void connectFocus();
     void connectFocusPresets();
     void connectServer();
@@ -725,6 +738,9 @@ private:
     int m_totalGuidePositions = 4;
     bool m_blobInSector = false;
     double m_blobSectorAlignment = 0.0;
+    QVariantMap m_blobAdvice;
+    std::optional<BlobSettings> m_blobProposal;
+    std::optional<BlobSettings> m_blobBeforeAdvice; ///< what undoBlobAdvice() goes back to
     QVariantList m_measurements;
     /// A measured centre that waits for the user's decision, and what it was measured with.
     struct PendingCenter

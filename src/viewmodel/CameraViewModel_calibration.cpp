@@ -128,6 +128,7 @@ void CameraViewModel::endCalibration()
 void CameraViewModel::storeCalibrationActive(bool active)
 {
     m_calibrationActive = active;
+    storeBlobAdvice({}, {});
     emit calibrationActiveChanged();
 }
 

@@ -2,11 +2,13 @@
 #include "TestFrames.h"
 #include "TestWarnings.h"
 #include "camera/CameraController.h"
+#include "measurement/BlobAdvice.h"
 
 #include <QTest>
 #include <QtMath>
 
 #include <cmath>
+#include <functional>
 
 using namespace meridax;
 
@@ -53,8 +55,32 @@ public:
     bool feed(const QList<QPointF> &marks)
     {
         const int before = m_arrived;
-        return offerWhenFree(controller, frameWithMarks(kSize, marks)) &&
+        return offerWhenFree(controller, frameWithMarks(kSize, marks, radius)) &&
                QTest::qWaitFor([&] { return m_arrived > before; });
+    }
+
+    /// Feeds marks of that size until the advice fits.
+    bool feedUntil(const QList<QPointF> &marks, double markRadius,
+                   const std::function<bool(const BlobAdvice &)> &fits)
+    {
+        BlobAdvice advice;
+        const QMetaObject::Connection connection =
+            QObject::connect(&controller, &CameraController::blobAdviceChanged, &m_context,
+                             [&advice](const BlobAdvice &told) { advice = told; });
+        radius = markRadius;
+        for (int frames = 0; frames < 200 && !fits(advice); ++frames) {
+            if (!feed(marks))
+                break;
+            QCoreApplication::processEvents();
+        }
+        QObject::disconnect(connection);
+        return fits(advice);
+    }
+
+    void setBlobSettings(const BlobSettings &blob)
+    {
+        m_settings.blob = blob;
+        controller.updateSettings(m_settings);
     }
 
     bool measure(const QList<QPointF> &marks)
@@ -69,6 +95,7 @@ public:
     CameraController controller;
     QStringList events;
     QImage last;
+    double radius = 24.0;
 
 private:
     template <typename Signal>
@@ -202,6 +229,57 @@ private slots:
         QTRY_COMPARE(blobs.size(), 2);
         QCOMPARE(blobs[0][0].toInt(), 1);
         QCOMPARE(blobs[1][0].toInt(), 0);
+    }
+
+    void saysWhyAndMends()
+    {
+        using Kind = BlobAdvice::Kind;
+        Procedure run(3);
+        const SignalRecorder told(&run.controller, &CameraController::blobAdviceChanged);
+        const SignalRecorder blobs(&run.controller, &CameraController::blobsDetected);
+        const QPointF mark = markAt(-45);
+        for (int i = 0; i < 8; ++i)
+            QVERIFY(run.feed({mark}));
+        QTRY_COMPARE(blobs.size(), 1);
+        QCOMPARE(told.size(), 0); // nothing is searched while one blob is found
+
+        std::optional<BlobSettings> proposal;
+        QVERIFY(run.feedUntil({mark}, 10.0, [&](const BlobAdvice &advice) {
+            proposal = advice.proposal;
+            return advice.kind == Kind::Candidate && advice.proposal &&
+                   advice.shown[0].shortfalls[0].filter == BlobFilter::MinArea &&
+                   QLineF(advice.shown[0].centre, mark).length() < 1.0;
+        }));
+        run.setBlobSettings(*proposal);
+        QVERIFY(run.feedUntil({mark}, 10.0, [&](const BlobAdvice &advice) {
+            return advice.kind == Kind::None && blobs.last()[0].toInt() == 1;
+        }));
+        QVERIFY(run.feedUntil({mark, markAt(90)}, 10.0, [](const BlobAdvice &advice) {
+            return advice.kind == Kind::Several && advice.shown.size() == 2 && advice.inTheWay;
+        }));
+        QVERIFY(run.feedUntil({}, 10.0, [](const BlobAdvice &advice) {
+            return advice.kind == Kind::Fault && advice.fault == PictureFault::NoContrast;
+        }));
+    }
+
+    void startAndCancelTellEverything()
+    {
+        CameraController controller;
+        const SignalRecorder progress(&controller, &CameraController::measureProgressChanged);
+        const SignalRecorder inSector(&controller, &CameraController::blobInSectorChanged);
+        const SignalRecorder alignment(&controller, &CameraController::blobSectorAlignmentChanged);
+        const SignalRecorder guide(&controller, &CameraController::guideIndexChanged);
+        controller.measurePosition();
+        QCOMPARE(progress.size(), 0);
+        controller.startCalibration(5);
+        QCOMPARE(guide.last(), (QVariantList{0, 5}));
+        controller.cancelCalibration();
+        QCOMPARE(progress.last(), (QVariantList{0, 0}));
+        QCOMPARE(inSector.size(), 2);
+        QCOMPARE(alignment.size(), 2);
+        QVERIFY(!inSector.last()[0].toBool());
+        QCOMPARE(alignment.last()[0].toDouble(), 0.0);
+        QCOMPARE(guide.size(), 1);
     }
 
     void aFrameFromBeforeAStartDoesNotOpenThePipeline()

@@ -1,4 +1,4 @@
-#include "measurement/BlobMending.h"
+#include "measurement/CandidateSearch.h"
 
 #include <QTest>
 
@@ -243,6 +243,44 @@ private slots:
         QFETCH(cv::Mat, grey);
         QVERIFY(findCandidates(grey, {}).empty());
         QTEST(pictureFault(grey), "fault");
+    }
+
+    void tellsFlickerFromASingleChange()
+    {
+        FlickerWatch watch;
+        for (int i = 0; i < 40; ++i)
+            watch.add(i > 20);
+        QVERIFY(!watch.flickers());
+        for (int i = 0; i < 10; ++i)
+            watch.add(i % 3 != 0);
+        QVERIFY(watch.flickers());
+        for (int i = 0; i < FlickerWatch::frames; ++i)
+            watch.add(true);
+        QVERIFY(!watch.flickers());
+    }
+
+    void searchStaysWithinItsShare()
+    {
+        using namespace std::chrono_literals;
+        // Frames every 40 ms, searches of 50 ms.
+        SearchBudget budget;
+        SearchBudget::Time now{};
+        int searches = 0;
+        for (int frame = 0; frame < 300; ++frame, now += 40ms) {
+            if (budget.due(now)) {
+                budget.spent(now, 50ms);
+                ++searches;
+            }
+        }
+        QCOMPARE(searches, 60); // every 200 ms
+        budget.clear();
+        for (int frame = searches = 0; frame < 300; ++frame, now += 40ms) {
+            if (budget.due(now)) {
+                budget.spent(now, 1ms);
+                ++searches;
+            }
+        }
+        QCOMPARE(searches, 100); // every third frame
     }
 
     void manySpecksEnd()

@@ -1,4 +1,5 @@
 #include "ViewModelFixture.h"
+#include "measurement/BlobAdvice.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -189,6 +190,47 @@ private slots:
         QVERIFY(!m_viewModel->calibrated());
         QCOMPARE(calibrated.size(), 1);
         QVERIFY2(m_viewModel->locked(), "the lock is another matter");
+    }
+
+    void adviceIsAppliedAndTakenBack()
+    {
+        BlobAdvice advice;
+        advice.kind = BlobAdvice::Kind::Candidate;
+        advice.shown.emplace_back();
+        advice.proposal = BlobSettings{.minArea = 120, .minCircularity = 0.81};
+        emit controller().blobAdviceChanged(advice);
+        QVERIFY2(m_viewModel->blobAdvice().isEmpty(), "no calibration runs");
+        m_viewModel->applyBlobAdvice();
+        QCOMPARE(m_viewModel->blobMinArea(), 500.0);
+
+        m_viewModel->startCalibration();
+        emit controller().blobAdviceChanged(advice);
+        const QVariantMap told = m_viewModel->blobAdvice();
+        QCOMPARE(told[QStringLiteral("kind")].toString(), QStringLiteral("candidate"));
+        QCOMPARE(told[QStringLiteral("changes")].toList().size(), 2);
+        QSignalSpy moved(m_viewModel.get(), &CameraViewModel::blobSettingsChanged);
+        m_viewModel->applyBlobAdvice();
+        QCOMPARE(moved.size(), 2); // the two that differ
+        QCOMPARE(m_viewModel->blobMinArea(), 120.0);
+        QCOMPARE(m_viewModel->blobMinCircularity(), 0.81);
+        QVERIFY(m_viewModel->blobAdviceApplied());
+        QVERIFY(m_viewModel->blobAdvice().isEmpty());
+        QTRY_COMPARE(loadSettings().blob.minArea, 120.0);
+
+        m_viewModel->undoBlobAdvice();
+        QCOMPARE(m_viewModel->blobMinArea(), 500.0);
+        QCOMPARE(m_viewModel->blobMinCircularity(), 0.9);
+        QVERIFY(!m_viewModel->blobAdviceApplied());
+
+        emit controller().blobAdviceChanged(advice);
+        m_viewModel->applyBlobAdvice();
+        m_viewModel->setBlobMinArea(130);
+        QVERIFY2(!m_viewModel->blobAdviceApplied(), "the user has gone on");
+        m_viewModel->undoBlobAdvice();
+        QCOMPARE(m_viewModel->blobMinArea(), 130.0);
+        emit controller().blobAdviceChanged(advice);
+        m_viewModel->cancelCalibration();
+        QVERIFY(m_viewModel->blobAdvice().isEmpty());
     }
 
     void lock()

@@ -150,6 +150,61 @@ TestCase {
         tryCompare(part("measureButton"), "color", data.ready ? "#4caf50" : "#2e3a2e");
     }
 
+    Component {
+        id: adviceLine
+
+        Parts.BlobAdviceLine {
+            property int clicks: 0
+
+            applied: false
+            onAccepted: ++clicks
+        }
+    }
+
+    function test_advice_data() {
+        const tag = (area, shortfalls) => ({ points: [], centre: Qt.point(0, 0), radius: 5,
+                                             area: area, darkness: 14, shortfalls: shortfalls });
+        const candidate = (...shortfalls) => ({ kind: "candidate", tags: [tag(132, shortfalls)] });
+        return [
+            { tag: "round", text: "Nächster Kandidat: Rundheit 84 % (mindestens 90 %)",
+              advice: candidate({ filter: 2, value: 0.849, limit: 0.9 }) },
+            { tag: "small and oblique", advice: candidate({ filter: 0, value: 132, limit: 500 },
+                                                          { filter: 3, value: 0.67, limit: 0.95 }),
+              text: "Nächster Kandidat: zu klein: 132 px² (mindestens 500), "
+                    + "Symmetrie 67 % (mindestens 95 %)" },
+            { tag: "faint", advice: candidate(),
+              text: "Nächster Kandidat: zu schwacher Kontrast: 14 Stufen" },
+            { tag: "two", text: "2 Blobs: 512 px² und 18\u202f400 px²",
+              advice: { kind: "several", blobs: 2, tags: [tag(18400, []), tag(512, [])] } },
+            { tag: "many", text: "1\u202f000 Blobs: 50 px² bis 60 px²",
+              advice: { kind: "several", blobs: 1000, smallestArea: 50, largestArea: 60,
+                        tags: [tag(50, []), tag(51, [])] } },
+            { tag: "flicker", text: "Blob flackert: Rundheit 88–93 %",
+              advice: { kind: "flicker", flickerLow: 0.881, flickerHigh: 0.932,
+                        tags: [tag(700, [{ filter: 2, value: 0.88, limit: 0.9 }])] } },
+            { tag: "fault", advice: { kind: "fault", fault: 0 }, text: "Das Bild ist zu dunkel." },
+            { tag: "nothing", advice: {}, text: "" }
+        ];
+    }
+
+    function test_advice(data) {
+        const line = createTemporaryObject(adviceLine, testCase, { advice: data.advice });
+        compare(findChild(line, "blobAdviceText").text, data.text);
+        verify(!findChild(line, "applyBlobAdvice").visible);
+    }
+
+    function test_adviceOffersItsValues() {
+        const line = createTemporaryObject(adviceLine, testCase, {
+            advice: { kind: "fault", fault: 0,
+                      changes: [{ filter: 2, value: 0.9, limit: 0.81 }] } });
+        const button = findChild(line, "applyBlobAdvice");
+        verify(button.visible);
+        compare(findChild(line, "blobAdviceChanges").text, "Min Circularity 90 → 81");
+        button.forceActiveFocus();
+        keyClick(Qt.Key_Return);
+        compare(line.clicks, 1);
+    }
+
     function test_measuring_data() {
         return [
             { tag: "click", act: button => mouseClick(button) },
