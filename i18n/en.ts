@@ -293,6 +293,30 @@
         <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
         <translation>%1. No setting separates it from the spot of %2.</translation>
     </message>
+    <message>
+        <source>Min Area</source>
+        <translation>Min area</translation>
+    </message>
+    <message>
+        <source>Max Area</source>
+        <translation>Max area</translation>
+    </message>
+    <message>
+        <source>Min Circularity</source>
+        <translation>Min circularity</translation>
+    </message>
+    <message>
+        <source>Min Inertia</source>
+        <translation>Min inertia</translation>
+    </message>
+    <message>
+        <source>Min Threshold</source>
+        <translation>Min threshold</translation>
+    </message>
+    <message>
+        <source>Max Threshold</source>
+        <translation>Max threshold</translation>
+    </message>
 </context>
 <context>
     <name>BoundedText</name>

@@ -293,6 +293,30 @@
         <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
         <translation>%1. Ningún ajuste lo separa de la mancha de %2.</translation>
     </message>
+    <message>
+        <source>Min Area</source>
+        <translation>Área mín.</translation>
+    </message>
+    <message>
+        <source>Max Area</source>
+        <translation>Área máx.</translation>
+    </message>
+    <message>
+        <source>Min Circularity</source>
+        <translation>Redondez mín.</translation>
+    </message>
+    <message>
+        <source>Min Inertia</source>
+        <translation>Inercia mín.</translation>
+    </message>
+    <message>
+        <source>Min Threshold</source>
+        <translation>Umbral mín.</translation>
+    </message>
+    <message>
+        <source>Max Threshold</source>
+        <translation>Umbral máx.</translation>
+    </message>
 </context>
 <context>
     <name>BoundedText</name>

@@ -293,6 +293,30 @@
         <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
         <translation>%1. Aucun réglage ne le sépare de la tache de %2.</translation>
     </message>
+    <message>
+        <source>Min Area</source>
+        <translation>Surface min</translation>
+    </message>
+    <message>
+        <source>Max Area</source>
+        <translation>Surface max</translation>
+    </message>
+    <message>
+        <source>Min Circularity</source>
+        <translation>Circularité min</translation>
+    </message>
+    <message>
+        <source>Min Inertia</source>
+        <translation>Inertie min</translation>
+    </message>
+    <message>
+        <source>Min Threshold</source>
+        <translation>Seuil min</translation>
+    </message>
+    <message>
+        <source>Max Threshold</source>
+        <translation>Seuil max</translation>
+    </message>
 </context>
 <context>
     <name>BoundedText</name>

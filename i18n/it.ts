@@ -293,6 +293,30 @@
         <source>%1. Keine Einstellung trennt ihn von dem Fleck mit %2.</source>
         <translation>%1. Nessuna impostazione lo separa dalla macchia di %2.</translation>
     </message>
+    <message>
+        <source>Min Area</source>
+        <translation>Area min</translation>
+    </message>
+    <message>
+        <source>Max Area</source>
+        <translation>Area max</translation>
+    </message>
+    <message>
+        <source>Min Circularity</source>
+        <translation>Circolarità min</translation>
+    </message>
+    <message>
+        <source>Min Inertia</source>
+        <translation>Inerzia min</translation>
+    </message>
+    <message>
+        <source>Min Threshold</source>
+        <translation>Soglia min</translation>
+    </message>
+    <message>
+        <source>Max Threshold</source>
+        <translation>Soglia max</translation>
+    </message>
 </context>
 <context>
     <name>BoundedText</name>

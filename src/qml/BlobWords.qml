@@ -114,8 +114,10 @@ QtObject {
     function _change(change: var): string {
         const percent = change.filter === BlobWords.Filter.Circularity
                       || change.filter === BlobWords.Filter.Inertia;
-        const name = ["Min Area", "Max Area", "Min Circularity", "Min Inertia", "Min Threshold",
-                      "Max Threshold"][change.filter];
+        // As the sliders are called.
+        const name = [qsTr("Min Area"), qsTr("Max Area"), qsTr("Min Circularity"),
+                      qsTr("Min Inertia"), qsTr("Min Threshold"),
+                      qsTr("Max Threshold")][change.filter];
         const shown = value => percent ? _percent(value) : number(value);
         return `${name} ${shown(change.value)} → ${shown(change.limit)}`;
     }
