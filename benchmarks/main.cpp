@@ -2,7 +2,7 @@
 #include "RatioReport.h"
 #include "camera/CameraController.h"
 #include "camera/FrameImage.h"
-#include "measurement/BlobAnalysis.h"
+#include "measurement/CandidateSearch.h"
 
 #include <QGuiApplication>
 
@@ -102,6 +102,22 @@ void bareCalls(benchmark::State &state)
     }
 }
 
+/// One search for candidates, which is made at most at every third frame.
+void candidateSearch(benchmark::State &state)
+{
+    const QImage source = benchFrame(sizeOf(state));
+    cv::Mat grey;
+    cv::cvtColor(wrapRgbImage(source), grey, cv::COLOR_RGB2GRAY);
+    cv::Mat scaled;
+    const cv::Mat image = detectionImage(grey, scaled);
+    const double scale = 1.0 * grey.cols / image.cols;
+    BlobSettings settings;
+    settings.minArea = 40'000; // the mark is smaller
+    CandidateSearch search;
+    for (auto _ : state)
+        search.search(image, scale, settings, 0);
+}
+
 void livePath(benchmark::State &state, const CameraSettings &camera)
 {
     AppSettings settings;
@@ -161,6 +177,7 @@ void registerAll()
     };
     add("memcpy", copyOfTheFrame);
     add("bare calls", bareCalls);
+    add("candidate search", candidateSearch);
     addManual("live, neutral", livePath, CameraSettings());
     addManual("live, adjusted", livePath, set);
     addManual("calibration", calibrationPath);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr size_t kSightings = 4;
 constexpr size_t kTrials = 3;
-constexpr std::ptrdiff_t kTrialsWon = 2;
+constexpr size_t kTrialsWon = 2;
 
 template <typename T>
 void pushLimited(std::deque<T> &list, T value, size_t most)
@@ -38,6 +38,13 @@ bool findsOnly(const BlobCandidate &candidate, const cv::Mat &image, double scal
     return found.size() == 1 && std::hypot(found[0].pt.x * scale - candidate.centre.x(),
                                            found[0].pt.y * scale - candidate.centre.y()) <
                                     std::max(3.0 * scale, candidate.radius);
+}
+
+bool findsOnly(const BlobCandidate &candidate, const BlobScan &scan, const BlobSettings &settings)
+{
+    const std::vector<FoundBlob> found = blobsFound(scan, settings);
+    return found.size() == 1 && std::find(candidate.chain.begin(), candidate.chain.end(),
+                                          found[0].outline) != candidate.chain.end();
 }
 
 double valueOf(const BlobOutline &outline, BlobFilter filter)
@@ -209,8 +216,11 @@ BlobCandidate CandidateSearch::chosenFrom(std::vector<BlobCandidate> candidates,
 void CandidateSearch::mend(Shift &shift, const cv::Mat &image)
 {
     const Sighting &newest = shift.sightings.back();
+    // The scan tells the same for a fraction of the time, once the detector itself has agreed.
     const auto tried = [&] {
-        return findsOnly(newest.candidate, image, newest.scan->scale, *shift.mending.settings);
+        return shift.trials.size() < kTrialsWon
+                   ? findsOnly(newest.candidate, image, newest.scan->scale, *shift.mending.settings)
+                   : findsOnly(newest.candidate, *newest.scan, *shift.mending.settings);
     };
     if (shift.mending.settings) {
         const bool won = tried();
@@ -235,7 +245,8 @@ const CandidateSearch::Shift *CandidateSearch::steadiest() const
     const Shift *best = nullptr;
     for (const Shift &shift : m_shifts) {
         if (shift.mending.settings &&
-            std::count(shift.trials.begin(), shift.trials.end(), true) >= kTrialsWon &&
+            std::count(shift.trials.begin(), shift.trials.end(), true) >=
+                std::ptrdiff_t(kTrialsWon) &&
             (!best || shift.mending.steadiness > best->mending.steadiness))
             best = &shift;
     }
