@@ -18,7 +18,8 @@ Item {
     property color lineColor: "#FFD54F"
 
     readonly property real pxScale: source.height > 0 ? dest.height / source.height : 0
-    readonly property var _path: points.map(point => toItem(point))
+    readonly property var _path: points.length > 0
+                                 ? points.concat([points[0]]).map(point => toItem(point)) : []
 
     /// Position in this item of a point of the frame.
     function toItem(point: point): point {
@@ -26,27 +27,30 @@ Item {
                         dest.y + (point.y - source.y) * pxScale);
     }
 
-    // On light ground and dark alike.
-    component Outline: ShapePath {
-        strokeWidth: 2
-        fillColor: "transparent"
-
-        PathPolyline {
-            path: root._path.length > 0 ? root._path.concat([root._path[0]]) : []
-        }
-    }
-
     Shape {
         anchors.fill: parent
 
-        Outline {
-            strokeColor: "#C0000000"
+        // Beneath the dashes, so that they show on light ground, too.
+        ShapePath {
             strokeWidth: 3
+            strokeColor: "#C0000000"
+            fillColor: "transparent"
+
+            PathPolyline {
+                path: root._path
+            }
         }
-        Outline {
+
+        ShapePath {
+            strokeWidth: 2
             strokeColor: root.lineColor
             strokeStyle: ShapePath.DashLine
             dashPattern: [3, 2]
+            fillColor: "transparent"
+
+            PathPolyline {
+                path: root._path
+            }
         }
     }
 
