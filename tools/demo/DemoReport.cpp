@@ -15,9 +15,11 @@ QString DemoReport::line() const
     };
     const QString sigma = sigmaAssessable ? QStringLiteral("%1 px").arg(reportedSigma, 0, 'f', 3)
                                           : QStringLiteral("not assessable");
-    return QStringLiteral("%1: true centre %2, measured %3, error %4 px, reported uncertainty %5, "
-                          "\"%6\", %7 frames/s: %8")
-        .arg(name, px(trueCentre), px(measuredCentre))
+    const QString click =
+        mended.isEmpty() ? QString() : QStringLiteral("offered and set: %1; ").arg(mended);
+    return QStringLiteral("%1: %2true centre %3, measured %4, error %5 px, reported uncertainty "
+                          "%6, \"%7\", %8 frames/s: %9")
+        .arg(name, click, px(trueCentre), px(measuredCentre))
         .arg(error(), 0, 'f', 3)
         .arg(sigma, verdict)
         .arg(framesPerSecond, 0, 'f', 1)

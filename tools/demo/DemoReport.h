@@ -13,10 +13,10 @@ struct DemoReport
     bool sigmaAssessable = false;
     double framesPerSecond = 0.0;
     QString verdict;
+    QString mended;        ///< the detector values that the program offered and set; empty: none
+    double maxError = 0.1; ///< px at 1280x720
 
     double error() const; ///< distance of the two centres, px
     bool passed() const { return error() < maxError; }
     QString line() const;
-
-    static constexpr double maxError = 0.1; ///< px at 1280x720
 };
