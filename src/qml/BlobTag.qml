@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Material
 import QtQuick.Shapes
-import Meridax
 
 /// A dashed outline in the picture, with a few words beside it.
 Item {

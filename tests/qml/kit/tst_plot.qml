@@ -60,6 +60,9 @@ TestCase {
     function init() {
         failOnWarning(/.?/);
         ViewModel.startCalibration();
+    }
+
+    function cleanup() {
         ViewModel.cancelCalibration();
     }
 
