@@ -79,13 +79,11 @@ struct ControlThread::Shared
         return answer;
     }
 
-    /// Does one order without the lock and sends its answer with it, under which the receiver
-    /// cannot go.
+    /// Does one order without the lock and sends its answer under it, so that the receiver cannot
+    /// go meanwhile.
     template <typename Order, typename Handler>
-    void serve(std::optional<Order> &slot, const Handler &handler,
-               std::unique_lock<std::mutex> &lock)
+    void serve(const Order &order, const Handler &handler, std::unique_lock<std::mutex> &lock)
     {
-        const Order order = *std::exchange(slot, {});
         lock.unlock();
         auto result = answer(order);
         lock.lock();
@@ -128,7 +126,8 @@ ControlThread::~ControlThread()
 std::uint64_t ControlThread::write(ControlRecord record)
 {
     const std::lock_guard lock(m_shared->mutex);
-    if (m_shared->write && m_shared->write->record.writes == ControlWrites::All)
+    if (const auto &waiting = m_shared->write;
+        waiting && waiting->record.writes == ControlWrites::All)
         record.writes = ControlWrites::All;
     m_shared->write = {++m_lastNumber, std::move(record)};
     m_shared->changed.notify_all();
@@ -155,10 +154,10 @@ void ControlThread::run(const std::shared_ptr<Shared> &shared)
     while (true) {
         shared->changed.wait(
             lock, [&] { return shared->stopRequested || shared->write || shared->query; });
-        if (shared->write)
-            shared->serve(shared->write, shared->onWritten, lock);
-        else if (shared->query)
-            shared->serve(shared->query, shared->onQueried, lock);
+        if (const auto write = std::exchange(shared->write, {}))
+            shared->serve(*write, shared->onWritten, lock);
+        else if (const auto query = std::exchange(shared->query, {}))
+            shared->serve(*query, shared->onQueried, lock);
         else
             break;
     }

@@ -100,9 +100,11 @@ bool applyExposure(const V4l2Device &device, int value, ControlWrites writes)
         return false;
     const ControlRange range = exposureRangeOfUnits(*units);
     const int wanted = migratedExposure(value, range, ExposureScale::TenthsOfAStop);
-    ControlWrite write = *exposureWrite(wanted, range);
-    write.value = snapToStep(unitsOfExposure(write.value), *units);
-    return control.apply(write, writes).taken;
+    std::optional<ControlWrite> write = exposureWrite(wanted, range);
+    if (!write)
+        return false;
+    write->value = snapToStep(unitsOfExposure(write->value), *units);
+    return control.apply(*write, writes).taken;
 }
 
 bool applyFocus(const V4l2Device &device, int value, ControlWrites writes)

@@ -118,7 +118,7 @@ std::vector<QPointF> drawnOutline(const BlobOutline &outline, double scale)
     return points;
 }
 
-BlobCandidate candidateOf(const BlobScan &scan, Chain chain, const cv::Mat &image,
+BlobCandidate candidateOf(const BlobScan &scan, const Chain &chain, const cv::Mat &image,
                           const BlobSettings &settings)
 {
     std::vector<std::pair<double, int>> byMissing;
@@ -237,10 +237,10 @@ std::vector<BlobCandidate> candidatesOf(const BlobScan &scan, const cv::Mat &ima
     const double threshold = std::max(faintest, timesNoise * noiseOf(image));
     std::vector<BlobCandidate> candidates;
     double darkest = 0.0;
-    for (Chain &chain : ChainBuilder(scan).build()) {
+    for (const Chain &chain : ChainBuilder(scan).build()) {
         if (chain.size() < 2)
             continue;
-        BlobCandidate candidate = candidateOf(scan, std::move(chain), image, settings);
+        BlobCandidate candidate = candidateOf(scan, chain, image, settings);
         if (candidate.darkness < threshold || candidate.area < smallest)
             continue;
         darkest = std::max(darkest, candidate.darkness);

@@ -100,9 +100,11 @@ BlobScan scanOutlines(const cv::Mat &image, double scale, const BlobSettings &se
     const double step = params.thresholdStep;
     const double first =
         params.minThreshold - std::floor((params.minThreshold - 1.0) / step) * step;
-    for (double threshold = first; threshold < lightest; threshold += step) {
+    double threshold = first;
+    while (threshold < lightest) {
         if (threshold >= darkest)
             traceAt(threshold, image, scan);
+        threshold += step;
     }
     return scan;
 }

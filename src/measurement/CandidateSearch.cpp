@@ -12,6 +12,8 @@ namespace {
 constexpr size_t kSightings = 4;
 constexpr size_t kTrials = 3;
 constexpr size_t kTrialsWon = 2;
+/// Advice outlasts shorter appearances of a single blob: nobody could click on it otherwise.
+constexpr int kSettledFrames = 15;
 
 template <typename T>
 void pushLimited(std::deque<T> &list, T value, size_t most)
@@ -128,6 +130,7 @@ void CandidateSearch::adopt(const BlobSettings &settings)
     forgetPictures();
     m_flicker.clear();
     m_advice.proposal.reset();
+    m_singles = kSettledFrames; // the values may just have been mended
 }
 
 bool CandidateSearch::addFrame(const cv::Mat &image, double scale, const BlobSettings &settings,
@@ -136,11 +139,14 @@ bool CandidateSearch::addFrame(const cv::Mat &image, double scale, const BlobSet
     adopt(settings);
     m_flicker.add(blobs == 1);
     if (blobs == 1) {
-        if (m_advice.kind == BlobAdvice::Kind::None || m_flicker.flickers())
+        ++m_singles;
+        if (m_advice.kind == BlobAdvice::Kind::None || m_flicker.flickers() ||
+            m_singles < kSettledFrames)
             return false;
         m_advice = {};
         return true;
     }
+    m_singles = 0;
     const auto now = SearchBudget::Time::clock::now();
     if (!m_budget.due(now))
         return false;

@@ -102,6 +102,7 @@ private:
     std::array<Shift, kShifts.size()> m_shifts;
     size_t m_turn = 0;
     int m_searchesInVain = 0;
+    int m_singles = 0; ///< frames in a row with one blob
     std::optional<BlobCandidate> m_last;
     BlobAdvice m_advice;
 };

@@ -259,6 +259,24 @@ private slots:
         QVERIFY(!watch.flickers());
     }
 
+    void adviceOutlastsAMomentWithTheMark()
+    {
+        const cv::Mat dark = cv::Mat::zeros(100, 100, CV_8UC1);
+        CandidateSearch search;
+        QVERIFY(search.addFrame(dark, 1.0, {}, 0, {}));
+        QVERIFY(!search.addFrame(dark, 1.0, {}, 1, {}));
+        QCOMPARE(search.advice().kind, BlobAdvice::Kind::Fault);
+        for (int i = 0; i < 30; ++i)
+            search.addFrame(dark, 1.0, {}, 1, {});
+        QCOMPARE(search.advice().kind, BlobAdvice::Kind::None);
+        // Values that were just mended need no more advice.
+        BlobSettings mended;
+        mended.minCircularity = 0.5;
+        search.search(dark, 1.0, {}, 0);
+        QVERIFY(search.addFrame(dark, 1.0, mended, 1, {}));
+        QCOMPARE(search.advice().kind, BlobAdvice::Kind::None);
+    }
+
     void searchStaysWithinItsShare()
     {
         using namespace std::chrono_literals;
