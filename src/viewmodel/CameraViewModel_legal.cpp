@@ -138,6 +138,8 @@ void CameraViewModel::onRenewedLegalDocument(bool success, const QString &kind,
         qDebug() << "[LegalDoc] nicht erneuert:" << kind << error;
         return;
     }
+    if (!m_renewedLegalDocs)
+        return;
     LegalDocsRecord &renewed = *m_renewedLegalDocs;
     storeDocument(kind, document, renewed);
     if (!isComplete(renewed))
